@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/bundle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+
+#include <utility>
+
+namespace tessarin {
+
+DirectoryBundle::DirectoryBundle(QString directory, QString identifier)
+    : directory_(std::move(directory)), identifier_(std::move(identifier))
+{
+}
+
+std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory, const QString &language,
+                                                       QString *reason)
+{
+    const QString path = QDir(directory).filePath(QStringLiteral("bundle.json"));
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        *reason = path + QStringLiteral(": ") +
+                  (info.exists() && !info.isFile() ? QStringLiteral("not a regular file") : file.errorString());
+        return nullptr;
+    }
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    const QString identifier = document.object().value(QStringLiteral("identifier")).toString();
+    if (identifier.isEmpty()) {
+        *reason = path + QStringLiteral(": ") +
+                  (error.error != QJsonParseError::NoError ? error.errorString()
+                                                           : QStringLiteral("no \"identifier\" in it"));
+        return nullptr;
+    }
+    std::shared_ptr<DirectoryBundle> bundle(new DirectoryBundle(directory, identifier));
+    return bundle->loadLanguage(language, reason) ? bundle : nullptr;
+}
+
+bool DirectoryBundle::loadTranslation(const QString &code)
+{
+    return translator_.load(QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code)));
+}
+
+bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)
+{
+    const QString english = QStringLiteral("en");
+    if (language == english) {
+        return true;
+    }
+    if (!language.isEmpty()) {
+        const bool plain = !language.contains(QLatin1Char('/')) && !language.contains(QLatin1Char('.'));
+        if (plain && loadTranslation(language)) {
+            return true;
+        }
+        *reason = QStringLiteral("%1: no translation into \"%2\"").arg(directory_, language);
+        return false;
+    }
+    const QStringList wanted = QLocale().uiLanguages();
+    for (const QString &tag : wanted) {
+        QString code = tag;
+        code.replace(QLatin1Char('-'), QLatin1Char('_'));
+        if (code.section(QLatin1Char('_'), 0, 0) == english || code == QLatin1String("C") || loadTranslation(code) ||
+            loadTranslation(code.section(QLatin1Char('_'), 0, 0))) {
+            break;
+        }
+    }
+    return true;
+}
+
+QString DirectoryBundle::localizedString(const QString &key) const
+{
+    const QString translated = translator_.translate(kTranslationContext, key.toUtf8().constData());
+    return translated.isEmpty() ? key : translated;
+}
+
+QString DirectoryBundle::interfacePath(const QString &name) const
+{
+    return QDir(directory_).filePath(name + QStringLiteral(".ui"));
+}
+
+} // namespace tessarin

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The panel's view: loading, outlets, and the actions of its controls.
+
+#include "plugin/password_pde.h"
+
+#include "controls/control_layer.h"
+#include "controls/event_dispatch.h"
+#include "controls/menu_items.h"
+#include "controls/sliders.h"
+#include "ink/level_box.h"
+#include "platform/bundle.h"
+#include "platform/interface_loader.h"
+#include "platform/tab_view.h"
+#include "platform/view_tags.h"
+#include "plugin/log.h"
+#include "plugin/restore.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+
+namespace tessarin {
+
+namespace {
+
+constexpr char kInterfaceName[] = "TessarinPDE_C";
+
+void setOutlet(QWidget *root, const char *name, QPointer<QWidget> &outlet)
+{
+    const QString wanted = QString::fromLatin1(name);
+    outlet = root->objectName() == wanted ? root : root->findChild<QWidget *>(wanted);
+}
+
+} // namespace
+
+void PasswordPDE::loadInterface()
+{
+    const auto *bundle = dynamic_cast<const DirectoryBundle *>(pluginBundle.get());
+    if (bundle == nullptr) {
+        _VERBOSE("ERROR: no bundle to load the interface from\n");
+        return;
+    }
+    const QHash<QString, ViewMaker> makers{
+        {QStringLiteral("LevelBox"), [](QWidget *parent) -> QWidget * { return new LevelBox(parent); }}};
+    QString reason;
+    std::unique_ptr<QWidget> root =
+        loadInterfaceFile(bundle->interfacePath(QString::fromLatin1(kInterfaceName)), makers, &reason);
+    if (!root) {
+        _VERBOSE("ERROR: cannot load the interface - %S\n", reason.toStdString());
+        return;
+    }
+    connectOutlets(root.get());
+    connectActions(root.get());
+    loadedRoots.emplace_back(root.release());
+}
+
+void PasswordPDE::connectOutlets(QWidget *root)
+{
+    setOutlet(root, "pdeView", pdeView);
+    setOutlet(root, "usernameView", usernameView);
+    setOutlet(root, "passwordView", passwordView);
+    setOutlet(root, "TessarinPDEView", TessarinPDEView);
+    setOutlet(root, "PDETabView", PDETabView);
+    setOutlet(root, "lastConsumptionBox", lastConsumptionBox);
+    setOutlet(root, "totalConsumptionBox", totalConsumptionBox);
+}
+
+void PasswordPDE::connectActions(QWidget *root)
+{
+    // By view, since tags change. Only a person's actions arrive: the control layer sets values with signals blocked.
+    if (!actions) {
+        actions = std::make_unique<QObject>();
+    }
+    const auto popups = root->findChildren<QComboBox *>();
+    for (QComboBox *popup : popups) {
+        QObject::connect(popup, &QComboBox::activated, actions.get(), [this, popup] { popupChanged(popup); });
+    }
+    const auto buttons = root->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (tagOf(button) != 0) { // the toolkit's own buttons, of tab bars and lists, have none
+            QObject::connect(button, &QAbstractButton::clicked, actions.get(),
+                             [this, button] { buttonCallback(button); });
+        }
+    }
+    const auto sliders = root->findChildren<QAbstractSlider *>();
+    for (QAbstractSlider *slider : sliders) {
+        if (tagOf(slider) != 0) {
+            QObject::connect(slider, &QAbstractSlider::valueChanged, actions.get(),
+                             [this, slider] { scrollCallback(slider); });
+        }
+    }
+    if (auto *tabs = qobject_cast<TabView *>(PDETabView)) {
+        tabs->setShouldSelect(
+            [this, tabs](int position) { return tabViewShouldSelectTabViewItem(tabs, position); });
+    }
+}
+
+void PasswordPDE::releaseViews()
+{
+    if (auto *tabs = qobject_cast<TabView *>(PDETabView)) {
+        tabs->setShouldSelect({});
+    }
+    actions.reset();
+    for (const QPointer<QWidget> &root : loadedRoots) {
+        if (root && root->parent() == nullptr) {
+            delete root.data();
+        }
+    }
+    loadedRoots.clear();
+}
+
+std::int32_t PasswordPDE::popupChanged(QWidget *sender)
+{
+    return processEvent(context, 1, static_cast<std::int32_t>(tagOf(sender)));
+}
+
+std::int32_t PasswordPDE::buttonCallback(QWidget *sender)
+{
+    const auto id = static_cast<std::int32_t>(tagOf(sender));
+    _VERBOSE("buttonCallback: id=%d\n", id);
+    return processEvent(context, 1, id);
+}
+
+void PasswordPDE::scrollCallback(QWidget *sender)
+{
+    _VERBOSE("scrollCallback: id=%d\n", HandleNumber{tagOf(sender)});
+    SetScrollValue(sender);
+    const bool continuous = RunningOn105OrLater();
+    if (auto *slider = qobject_cast<QAbstractSlider *>(sender)) {
+        slider->setTracking(continuous);
+    }
+}
+
+void PasswordPDE::mouseUp()
+{
+    _VERBOSE("MOUSE UP\n");
+}
+
+bool PasswordPDE::validateMenuItem(std::int32_t itemTag)
+{
+    return menuItemTagIsEnabled(itemTag);
+}
+
+bool PasswordPDE::tabViewShouldSelectTabViewItem(const TabView *tabView, int position) const
+{
+    return tabView != nullptr && tabView->identifier(position) == QLatin1String(kTabOn);
+}
+
+} // namespace tessarin
