@@ -14,10 +14,10 @@
 
 namespace tessarin {
 
-const std::array<int, 7> disablepopups{kPopResolution, kPopIntent,    kPopDithering, kPopCartridge,
-                                       kPopCMYKspace,  kPopColorspace, -1};
-const std::array<int, 7> disablesliders{kSliderBrightness, kSliderContrast,  kSliderGamut, kSliderRefLight,
-                                        kSliderGreyToneA,  kSliderGreyToneB, -1};
+const std::array<int, 7> disablepopups{kPopResolution, kPopIntent, kPopDithering, kPopCartridge, kPopCMYKspace,
+                                       kPopColorspace, -1};
+const std::array<int, 7> disablesliders{
+    kSliderBrightness, kSliderContrast, kSliderGamut, kSliderRefLight, kSliderGreyToneA, kSliderGreyToneB, -1};
 
 namespace {
 
@@ -116,7 +116,8 @@ void checkControlAvailability(PanelContext *context, int eventId)
 
     ControlRect pane;
     GetControlBounds(controls.cyanPane, &pane);
-    MoveControl(controls.cyanPane, context->availabilityInt1 + (oneForAll ? context->availabilityInt2 : 0), pane.top);
+    MoveControl(controls.cyanPane, context->availabilityInt1 + (oneForAll ? context->availabilityInt2 : 0),
+                pane.top);
     Draw1Control(controls.cyanPane);
     if (controls.brightUsageLabel) {
         SetTextControl(controls.brightUsageLabel, usage);
@@ -143,9 +144,8 @@ void checkControlAvailability(PanelContext *context, int eventId)
 
 int MyShowAlert(QWidget *parent)
 {
-    const StringRef message =
-        localized("You have chosen an incomplete media profile without color data!\n"
-                  "This profile should only be used for printing color charts!");
+    const StringRef message = localized("You have chosen an incomplete media profile without color data!\n"
+                                        "This profile should only be used for printing color charts!");
     std::int16_t pressed = 0;
     return MyStdAlert(parent, false, localized("Attention:"), message, &pressed) != 0 ? -1 : 0;
 }

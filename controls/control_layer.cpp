@@ -68,17 +68,11 @@ QWidget *GetControlOwner(QWidget * /*view*/)
     return nullptr;
 }
 
-void InitOSSpecificItems()
-{
-}
+void InitOSSpecificItems() {}
 
-void MySetControlIcon(QWidget * /*control*/, int /*icon*/)
-{
-}
+void MySetControlIcon(QWidget * /*control*/, int /*icon*/) {}
 
-void SetControlReference(QWidget * /*control*/, std::int32_t /*reference*/)
-{
-}
+void SetControlReference(QWidget * /*control*/, std::int32_t /*reference*/) {}
 
 std::int32_t GetControlReference(QWidget * /*control*/)
 {

@@ -4,8 +4,8 @@
 // The control access layer: the panel's logic speaks to views only through these functions, by handle, numeric id,
 // value and 1-based item number.
 //
-// An empty handle, or one of the wrong kind, is ignored; getters then give 0. Results are status codes, 0 for success,
-// unless stated. Values are set without raising an event: only a person's actions do.
+// An empty handle, or one of the wrong kind, is ignored; getters then give 0. Results are status codes, 0 for
+// success, unless stated. Values are set without raising an event: only a person's actions do.
 
 #ifndef TESSARIN_CONTROLS_CONTROL_LAYER_H
 #define TESSARIN_CONTROLS_CONTROL_LAYER_H
@@ -25,8 +25,8 @@ struct ControlIDRecord {
 };
 inline constexpr std::uint32_t kControlSignature = 0x54657353; // 'TesS'
 
-/// A rectangle of the layer, in pixels of the view that holds the control. Of a frame (x, y, width, height): top = y,
-/// left = x, bottom = y - height + 1, right = x + width - 1, and back by the same rule.
+/// A rectangle of the layer, in pixels of the view that holds the control. Of a frame (x, y, width, height): top =
+/// y, left = x, bottom = y - height + 1, right = x + width - 1, and back by the same rule.
 struct ControlRect {
     std::int16_t top = 0;
     std::int16_t left = 0;
@@ -97,8 +97,8 @@ int SetBarColVal(QWidget *levelView, int red, int green, int blue);
 
 /// A critical alert with one button. The button's code, 1; 0 when it could not be shown.
 int MyAlertPanel(const char *message);
-/// An alert with the text "<title>\n\n<message>" and the buttons "OK" and, when asked for, "Cancel". `item` becomes 1
-/// for the default button, else 2; it may be null. 0; -1 when the alert could not be shown.
+/// An alert with the text "<title>\n\n<message>" and the buttons "OK" and, when asked for, "Cancel". `item` becomes
+/// 1 for the default button, else 2; it may be null. 0; -1 when the alert could not be shown.
 int MyStdAlert(QWidget *parent, bool withCancel, const StringRef &title, const StringRef &message,
                std::int16_t *item);
 

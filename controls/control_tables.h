@@ -76,7 +76,8 @@ enum ControlID : std::int32_t {
     kIdleEventID = 4900,
 };
 
-/// One slider. A PPD value is position * ppdStep + ppdOffset; the shown value is position * shownFactor + shownBase.
+/// One slider. A PPD value is position * ppdStep + ppdOffset; the shown value is position * shownFactor +
+/// shownBase.
 struct ScrollRow {
     std::int32_t page;           ///< mask of the page that holds the slider
     std::int32_t number;         ///< slider number, 0..19; -1 ends the table

@@ -79,8 +79,8 @@ void embedPopUps(PanelContext *context, QWidget *view, std::int32_t pageMask)
     }
 }
 
-/// With one cartridge there is nothing to choose: its pop-up goes, and Dithering takes its place up to the edge that
-/// Media Type has.
+/// With one cartridge there is nothing to choose: its pop-up goes, and Dithering takes its place up to the edge
+/// that Media Type has.
 void hideCartridge(PanelContext *context, QWidget *view)
 {
     _VERBOSE("HIDE CARTRIDGE POPUP\n");
@@ -188,7 +188,8 @@ void embedInkUsage(PanelContext *context, QWidget *view)
 std::int32_t MyEmbedCustomControls(std::int32_t pageMask, PanelContext *context, std::int32_t /*extra*/,
                                    QWidget *view)
 {
-    _VERBOSE("\n!!!MyEmbedControls!!! - idx=%d - window=%d\n\n", pageMask, HandleNumber{reinterpret_cast<qintptr>(view)});
+    _VERBOSE("\n!!!MyEmbedControls!!! - idx=%d - window=%d\n\n", pageMask,
+             HandleNumber{reinterpret_cast<qintptr>(view)});
     if (context == nullptr) {
         return 0;
     }

@@ -15,8 +15,8 @@ namespace tessarin {
 /// The result for an event that is not handled, and for a change that the host refused.
 inline constexpr std::int32_t kEventNotHandled = -111;
 
-/// Handles the event whose number is the id of the control that raised it. `kind` is always 1 and is not read. 0 when
-/// it was handled, else kEventNotHandled: the values of most controls are taken when the settings are saved.
+/// Handles the event whose number is the id of the control that raised it. `kind` is always 1 and is not read. 0
+/// when it was handled, else kEventNotHandled: the values of most controls are taken when the settings are saved.
 std::int32_t processEvent(PanelContext *context, int kind, std::int32_t eventId);
 
 } // namespace tessarin

@@ -160,7 +160,8 @@ bool menuItemIsHidden(const QComboBox *menu, int index)
 
 bool menuItemIsSeparator(const QComboBox *menu, int index)
 {
-    return menu != nullptr && menu->itemData(index, Qt::AccessibleDescriptionRole).toString() == kSeparatorDescription;
+    return menu != nullptr &&
+           menu->itemData(index, Qt::AccessibleDescriptionRole).toString() == kSeparatorDescription;
 }
 
 } // namespace tessarin

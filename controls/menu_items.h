@@ -38,8 +38,9 @@ int MyAppendMenuItem(MenuHandle menu, const char *title, std::int32_t n);
 int MyAppendDisabledMenuItem(MenuHandle menu, const char *title, std::int32_t n);
 int MyAppendSeparatorItem(MenuHandle menu);
 
-/// Sets and clears an attribute of item `item` (1-based; smaller numbers address the first item). Disabling makes the
-/// tag negative, enabling positive; hiding leaves the tag. Where a menu cannot hide items they are disabled instead.
+/// Sets and clears an attribute of item `item` (1-based; smaller numbers address the first item). Disabling makes
+/// the tag negative, enabling positive; hiding leaves the tag. Where a menu cannot hide items they are disabled
+/// instead.
 int ChangeMenuItemAttributes(MenuHandle menu, int item, int set, int clear);
 
 /// The tag of the item at a 0-based index; 0 when there is none.

@@ -50,7 +50,8 @@ int FillPopup(QWidget *popup, ChoiceList list, std::span<const int> enabledFlags
         }
         if (n == active) {
             activeItem = n;
-            _VERBOSE("Fillpopup - setactive item to #%d/n", activeItem); // the "/n" is what readers of the log expect
+            _VERBOSE("Fillpopup - setactive item to #%d/n",
+                     activeItem); // the "/n" is what readers of the log expect
         }
     }
     _VERBOSE("FillPOPUP -> activeidx = %d\n", activeItem);

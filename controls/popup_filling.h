@@ -15,8 +15,8 @@
 namespace tessarin {
 
 /// Fills the pop-up with the list's pairs, item n being pair n, and selects item `active` (item 1 when that is 0 or
-/// beyond the list). `enabledFlags` has one entry per pair, 0 for a pair that is shown disabled; without flags all are
-/// enabled. The result is that of the final selection.
+/// beyond the list). `enabledFlags` has one entry per pair, 0 for a pair that is shown disabled; without flags all
+/// are enabled. The result is that of the final selection.
 int FillPopup(QWidget *popup, ChoiceList list, std::span<const int> enabledFlags, int active);
 
 } // namespace tessarin

@@ -98,8 +98,8 @@ void ShowCurrentInputMode(PanelContext *context)
 void SetPreviewColor(PanelContext *context, bool colour)
 {
     if (context->callbackObject != nullptr) {
-        context->callbackObject->willChangePPDOptionKeyValue(QStringLiteral("ColorModel"),
-                                                             colour ? QStringLiteral("RGB") : QStringLiteral("Gray"));
+        context->callbackObject->willChangePPDOptionKeyValue(
+            QStringLiteral("ColorModel"), colour ? QStringLiteral("RGB") : QStringLiteral("Gray"));
     }
 }
 

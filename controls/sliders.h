@@ -13,12 +13,12 @@
 
 namespace tessarin {
 
-/// The property that links a slider with its value text: of the slider the text field's handle, of the text field the
-/// row number in `Scrolls`.
+/// The property that links a slider with its value text: of the slider the text field's handle, of the text field
+/// the row number in `Scrolls`.
 inline constexpr std::uint32_t kValueTextProperty = 0x54657874; // 'Text'
 
-/// The value text of row `row` of `Scrolls` at a position, e.g. "95%"; null for a row that does not exist. The caller
-/// releases it.
+/// The value text of row `row` of `Scrolls` at a position, e.g. "95%"; null for a row that does not exist. The
+/// caller releases it.
 StringRef CreateScrollValueCFString(int row, std::int32_t position);
 
 /// Refreshes the value text beside a slider, and enables the slider.

@@ -21,18 +21,18 @@ namespace tessarin {
 
 namespace {
 
-constexpr std::size_t kChunkSize = 158;           // compressed bytes of a full chunk
-constexpr int kChunkCapacity = 159;               // the decoder keeps one byte for a NUL: with 158 a byte is lost
-constexpr int kEncodedCapacity = 212;             // leaves 211 characters for a full chunk, one short of its "="
-constexpr std::size_t kAttributeNameSize = 41;    // characters, terminator included
-constexpr std::size_t kEntrySize = 256;           // characters, terminator included
-constexpr std::size_t kLineLimit = 1022;          // a line stays below this, without its line end
+constexpr std::size_t kChunkSize = 158;        // compressed bytes of a full chunk
+constexpr int kChunkCapacity = 159;            // the decoder keeps one byte for a NUL: with 158 a byte is lost
+constexpr int kEncodedCapacity = 212;          // leaves 211 characters for a full chunk, one short of its "="
+constexpr std::size_t kAttributeNameSize = 41; // characters, terminator included
+constexpr std::size_t kEntrySize = 256;        // characters, terminator included
+constexpr std::size_t kLineLimit = 1022;       // a line stays below this, without its line end
 constexpr std::string_view kLineStart = "PPD:";
 constexpr int kCompressionLevel = 9;
 
-constexpr std::size_t kFirstRoom = 256;            // bytes of output, one more being kept for the final NUL
-constexpr std::size_t kLargestDoubledRoom = 2047;  // up to here the room doubles
-constexpr std::size_t kRoomStep = 2048;            // beyond it grows by this
+constexpr std::size_t kFirstRoom = 256;             // bytes of output, one more being kept for the final NUL
+constexpr std::size_t kLargestDoubledRoom = 2047;   // up to here the room doubles
+constexpr std::size_t kRoomStep = 2048;             // beyond it grows by this
 constexpr std::size_t kLargestGrownRoom = 0xFFFFFF; // a larger room is not grown
 
 const char *messageOf(const z_stream &stream)

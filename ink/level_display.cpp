@@ -173,8 +173,7 @@ void enumLevelBoxes(QWidget *box, int firstTag)
     if (bars.size() < 2) {
         return;
     }
-    std::stable_sort(bars.begin(), bars.end(),
-                     [](const QWidget *a, const QWidget *b) { return a->y() < b->y(); });
+    std::stable_sort(bars.begin(), bars.end(), [](const QWidget *a, const QWidget *b) { return a->y() < b->y(); });
     for (std::size_t k = 0; k < bars.size(); ++k) {
         setTagOf(bars[k], firstTag + static_cast<int>(k));
     }

@@ -10,8 +10,8 @@
 
 namespace tessarin {
 
-/// Gives the bars directly inside `box` the tags firstTag, firstTag + 1, ... from the highest on the screen down. At
-/// most 16 bars that still have their first tag are counted; fewer than two stay as they are.
+/// Gives the bars directly inside `box` the tags firstTag, firstTag + 1, ... from the highest on the screen down.
+/// At most 16 bars that still have their first tag are counted; fewer than two stay as they are.
 void enumLevelBoxes(QWidget *box, int firstTag);
 
 /// Lays out and fills both boxes from the counters in the settings; rows without a channel are hidden.

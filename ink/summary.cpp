@@ -27,8 +27,8 @@ StringRef text(const char *utf8)
 /// Whether the selected media takes one setting for all bright inks: its key ends in "5".
 bool hasOneBrightInkSetting(const PanelContext &context)
 {
-    const char *key = pairKey(choiceList(*context.ppdOptions, kPopMediaType),
-                              context.settings.popupSelections[kPopMediaType]);
+    const char *key =
+        pairKey(choiceList(*context.ppdOptions, kPopMediaType), context.settings.popupSelections[kPopMediaType]);
     return key != nullptr && std::string_view(key).ends_with('5');
 }
 
@@ -49,8 +49,8 @@ void addSliderLine(int row, PanelContext *context, pde::Summary &summary)
         const StringRef title = myCFStringCreateWithCString(nullptr, slider.label, kEncodingASCII);
         label = myCFStringCreateCopy(nullptr, MyCFCopyLocalizedString(title, ""));
     }
-    const StringRef value = CreateScrollValueCFString(
-        row, context->settings.sliderValues[static_cast<std::size_t>(slider.number)]);
+    const StringRef value =
+        CreateScrollValueCFString(row, context->settings.sliderValues[static_cast<std::size_t>(slider.number)]);
     const bool isBrightInk = row == kSliderBrightCyan || row == kSliderBrightMagenta;
     if (isBrightInk && hasOneBrightInkSetting(*context)) {
         label = row == kSliderBrightCyan ? MyCFCopyLocalizedString(text("Bright Inks Usage:"), "") : nullptr;

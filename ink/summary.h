@@ -20,8 +20,8 @@ std::optional<pde::Summary> MyGetSummaryText(PanelContext *context);
 /// Adds a line: the localised label with the value, localised when asked for.
 void mySummaryEntry(pde::Summary &dictionary, const StringRef &label, const StringRef &value, bool localiseValue);
 
-/// Adds the line of pop-up row `row`: the text of its selected choice, of its first one when nothing is selected. No
-/// line when that choice does not exist.
+/// Adds the line of pop-up row `row`: the text of its selected choice, of its first one when nothing is selected.
+/// No line when that choice does not exist.
 void insertPopEntrySummary(int row, PanelContext *context, pde::Summary &dictionary);
 
 /// Appends a label to the display order, if the summary has one.

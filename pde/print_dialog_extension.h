@@ -88,8 +88,9 @@ public:
 
 /// A panel's summary: one text per localised label, and the labels in the order in which they are shown.
 struct Summary {
-    QHash<QString, QString> entries;           ///< label to value, both as shown; without the order key
-    std::optional<QStringList> displayOrder{}; ///< what stands under kSummaryDisplayOrderKey; nothing: no order given
+    QHash<QString, QString> entries; ///< label to value, both as shown; without the order key
+    std::optional<QStringList>
+        displayOrder{}; ///< what stands under kSummaryDisplayOrderKey; nothing: no order given
 };
 
 /// One panel of the print dialog. Destruction is its `dealloc`.

@@ -20,9 +20,9 @@ namespace tessarin {
 struct Alert {
     QString title;
     QString text;
-    QStringList buttons;            ///< at least one; the first is the default button
-    bool critical = false;          ///< shown with the sign of an error
-    QPointer<QWidget> parent = {};  ///< window the alert belongs to; null: none
+    QStringList buttons;           ///< at least one; the first is the default button
+    bool critical = false;         ///< shown with the sign of an error
+    QPointer<QWidget> parent = {}; ///< window the alert belongs to; null: none
 };
 
 /// Shows an alert and waits for the answer: the index of the button pressed, or nothing when the alert could not be

@@ -13,8 +13,8 @@
 
 namespace tessarin {
 
-/// Copies `text` into `buffer`, cut at the byte to the buffer's size less one, and terminates it. A buffer of size 0
-/// is left alone.
+/// Copies `text` into `buffer`, cut at the byte to the buffer's size less one, and terminates it. A buffer of size
+/// 0 is left alone.
 inline void copyBounded(std::span<char> buffer, std::string_view text)
 {
     if (buffer.empty()) {

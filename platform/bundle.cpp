@@ -16,8 +16,7 @@ namespace tessarin {
 
 DirectoryBundle::DirectoryBundle(QString directory, QString identifier)
     : directory_(std::move(directory)), identifier_(std::move(identifier))
-{
-}
+{}
 
 std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory, const QString &language,
                                                        QString *reason)
@@ -66,8 +65,8 @@ bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)
     for (const QString &tag : wanted) {
         QString code = tag;
         code.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (code.section(QLatin1Char('_'), 0, 0) == english || code == QLatin1String("C") || loadTranslation(code) ||
-            loadTranslation(code.section(QLatin1Char('_'), 0, 0))) {
+        if (code.section(QLatin1Char('_'), 0, 0) == english || code == QLatin1String("C") ||
+            loadTranslation(code) || loadTranslation(code.section(QLatin1Char('_'), 0, 0))) {
             break;
         }
     }

@@ -25,8 +25,8 @@ inline constexpr char kTranslationContext[] = "TessarinPDE";
 class DirectoryBundle : public pde::Bundle {
 public:
     /// Opens the bundle in `directory`. `language`: a language code ("de", "pt_BR") that the bundle must have; "en"
-    /// for the texts as written; empty for the best match of the environment's languages. On failure null, with file
-    /// and reason in `reason`.
+    /// for the texts as written; empty for the best match of the environment's languages. On failure null, with
+    /// file and reason in `reason`.
     static std::shared_ptr<DirectoryBundle> open(const QString &directory, const QString &language,
                                                  QString *reason);
 

@@ -16,8 +16,8 @@ struct FileCloser {
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a file for reading. Null on failure, with the reason in errno. A pipe, socket or device is refused (ENXIO),
-/// since reading it could wait or go on for ever; a directory opens and holds no lines.
+/// Opens a file for reading. Null on failure, with the reason in errno. A pipe, socket or device is refused
+/// (ENXIO), since reading it could wait or go on for ever; a directory opens and holds no lines.
 FileHandle openForReading(const char *path);
 
 } // namespace tessarin

@@ -38,16 +38,14 @@ class FormatArgument {
 public:
     template <std::integral T>
     FormatArgument(T value) : value_(static_cast<long long>(value))
-    {
-    }
+    {}
     FormatArgument(double value) : value_(value) {}
     FormatArgument(const char *text) : value_(text) {}
     FormatArgument(const std::string &text) : value_(text.c_str()) {}
     FormatArgument(ObjectText object) : value_(std::move(object)) {}
     FormatArgument(const StringRef &string)
         : value_(ObjectText{string ? std::optional(string->text()) : std::nullopt})
-    {
-    }
+    {}
     FormatArgument(const void *pointer) : value_(pointer) {}
     FormatArgument(HandleNumber handle) : value_(handle) {}
 
@@ -59,15 +57,15 @@ private:
 };
 
 /// Applies `format` to `arguments` in order. "(null)" stands for a null text or object, "0x0" for a null pointer. A
-/// conversion whose argument is missing or of another kind, or that is unknown, is written literally; one of another
-/// kind still takes its argument. The result does not depend on the locale.
+/// conversion whose argument is missing or of another kind, or that is unknown, is written literally; one of
+/// another kind still takes its argument. The result does not depend on the locale.
 std::string formatText(std::string_view format, std::span<const FormatArgument> arguments);
 
 /// The description of an object of class `className` at `address`: "<Class: 0x…>"; a null object for null.
 ObjectText describeObject(std::string_view className, const void *address);
 
-/// With `stable`, every pointer that is not null is written as "0xP" and every handle as 0, so that the lines of two
-/// builds can be compared byte for byte. Off at start; set before any line is formatted.
+/// With `stable`, every pointer that is not null is written as "0xP" and every handle as 0, so that the lines of
+/// two builds can be compared byte for byte. Off at start; set before any line is formatted.
 void setStableAddresses(bool stable);
 
 } // namespace tessarin

@@ -18,9 +18,9 @@ namespace tessarin {
 /// Makes a view of one class for the interface loader; the parent owns it.
 using ViewMaker = std::function<QWidget *(QWidget *parent)>;
 
-/// Loads the interface file at `path`. The classes "PopUpButton" and "TabView" are known; `makers` adds more by class
-/// name. Texts stay as the file gives them. The caller owns the result; on failure it is null, with the reason (file
-/// and line where there is one) in `reason`.
+/// Loads the interface file at `path`. The classes "PopUpButton" and "TabView" are known; `makers` adds more by
+/// class name. Texts stay as the file gives them. The caller owns the result; on failure it is null, with the
+/// reason (file and line where there is one) in `reason`.
 std::unique_ptr<QWidget> loadInterfaceFile(const QString &path, const QHash<QString, ViewMaker> &makers,
                                            QString *reason);
 

@@ -14,8 +14,8 @@ namespace tessarin {
 /// Receives one log line, line ends included.
 using LogSink = std::function<void(std::string_view line)>;
 
-/// Sends all further lines to `sink`; an empty one restores the default, the system log at debug priority. To be set
-/// while nothing is logged.
+/// Sends all further lines to `sink`; an empty one restores the default, the system log at debug priority. To be
+/// set while nothing is logged.
 void setLogSink(LogSink sink);
 
 /// Hands one finished line to the sink, in one call.

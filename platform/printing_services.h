@@ -14,8 +14,8 @@ namespace tessarin {
 /// Stores the session's current printer in `printer` (borrowed). 0; -1 without a session or a printer.
 int PMSessionGetCurrentPrinter(pde::PrintSession *session, pde::Printer **printer);
 
-/// Stores the location of the printer's description of the type ("PMPPDDescriptionType") in `url`. 0; -1 when it has
-/// none.
+/// Stores the location of the printer's description of the type ("PMPPDDescriptionType") in `url`. 0; -1 when it
+/// has none.
 int PMPrinterCopyDescriptionURL(pde::Printer *printer, const char *descriptionType, StringRef *url);
 
 /// The path of a description's location; null for null.

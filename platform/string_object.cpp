@@ -7,9 +7,7 @@
 
 namespace tessarin {
 
-StringObject::StringObject(std::string utf8) : text_(std::move(utf8))
-{
-}
+StringObject::StringObject(std::string utf8) : text_(std::move(utf8)) {}
 
 StringRef makeString(std::string utf8)
 {

@@ -13,9 +13,7 @@
 
 namespace tessarin {
 
-AskingTabBar::AskingTabBar(QWidget *parent) : QTabBar(parent)
-{
-}
+AskingTabBar::AskingTabBar(QWidget *parent) : QTabBar(parent) {}
 
 void AskingTabBar::setShouldSelect(ShouldSelectTab shouldSelect)
 {

@@ -22,7 +22,8 @@ qintptr tagOf(const QWidget *view);
 /// Gives the view a tag. Null is ignored.
 void setTagOf(QWidget *view, qintptr tag);
 
-/// The first view with the tag: `root` itself, then its subviews depth first in their order; null when there is none.
+/// The first view with the tag: `root` itself, then its subviews depth first in their order; null when there is
+/// none.
 QWidget *viewWithTag(QWidget *root, qintptr tag);
 
 /// A number for the view that fits into a tag; 0 for null. The view stays owned by its parent.

@@ -19,8 +19,8 @@ PanelContext *MyCreateCustomContext();
 /// its option table. The scan buffer is left behind.
 void MyReleaseCustomContext(PanelContext *context);
 
-/// Frees the scan buffer and empties the menus of the pop-ups 0 to 10. Record and option table stay; the choice lists
-/// are emptied, since their strings are gone.
+/// Frees the scan buffer and empties the menus of the pop-ups 0 to 10. Record and option table stay; the choice
+/// lists are emptied, since their strings are gone.
 void myCleanup(PanelContext *context);
 
 } // namespace tessarin

@@ -69,7 +69,8 @@ void PasswordPDE::connectOutlets(QWidget *root)
 
 void PasswordPDE::connectActions(QWidget *root)
 {
-    // By view, since tags change. Only a person's actions arrive: the control layer sets values with signals blocked.
+    // By view, since tags change. Only a person's actions arrive: the control layer sets values with signals
+    // blocked.
     if (!actions) {
         actions = std::make_unique<QObject>();
     }
@@ -113,14 +114,16 @@ void PasswordPDE::releaseViews()
 
 std::int32_t PasswordPDE::popupChanged(QWidget *sender)
 {
-    return processEvent(context, 1, static_cast<std::int32_t>(tagOf(sender)));
+    eventResult = processEvent(context, 1, static_cast<std::int32_t>(tagOf(sender)));
+    return eventResult;
 }
 
 std::int32_t PasswordPDE::buttonCallback(QWidget *sender)
 {
     const auto id = static_cast<std::int32_t>(tagOf(sender));
     _VERBOSE("buttonCallback: id=%d\n", id);
-    return processEvent(context, 1, id);
+    eventResult = processEvent(context, 1, id);
+    return eventResult;
 }
 
 void PasswordPDE::scrollCallback(QWidget *sender)

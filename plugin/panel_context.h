@@ -70,33 +70,33 @@ struct PanelSettings {
     /// 0 or 1 (from the PPD: the value's low byte): 0 vornNoPrint, 1 vornPSInterpreter (1: Ghostscript, the PPD's
     /// value 0), 2 vornColorGamma, 3 spare. The order is not that of the `checkboxes` table.
     std::array<std::uint8_t, kCheckBoxSlotCount> checkBoxStates{};
-    std::array<char, kInkFilePathSize> inkFilePath{};               ///< the printer's ink counter file
-    std::array<std::int32_t, kPopUpSlotCount> popupSelections{};    ///< 1-based pair number by `pops` row; 0: none
-    std::array<std::int32_t, kSlotCount> sliderValues{};            ///< slider position by slider number
-    std::array<std::int32_t, kSlotCount> inkLast{};                 ///< last job's counter by ink channel, unscaled
-    std::array<std::int32_t, kSlotCount> inkTotal{};                ///< total counter by ink channel, unscaled
-    std::array<std::int32_t, kSlotCount> inkSeen{};                 ///< 0: not shown, else 1-based place, by channel
-    std::int32_t inkChannelCount = 0;                               ///< channels shown
+    std::array<char, kInkFilePathSize> inkFilePath{};            ///< the printer's ink counter file
+    std::array<std::int32_t, kPopUpSlotCount> popupSelections{}; ///< 1-based pair number by `pops` row; 0: none
+    std::array<std::int32_t, kSlotCount> sliderValues{};         ///< slider position by slider number
+    std::array<std::int32_t, kSlotCount> inkLast{};              ///< last job's counter by ink channel, unscaled
+    std::array<std::int32_t, kSlotCount> inkTotal{};             ///< total counter by ink channel, unscaled
+    std::array<std::int32_t, kSlotCount> inkSeen{};              ///< 0: not shown, else 1-based place, by channel
+    std::int32_t inkChannelCount = 0;                            ///< channels shown
 };
 
 struct PanelContext {
     ControlsStruct controls;
     PanelSettings settings;
-    std::unique_ptr<PPDOptionTable> ppdOptions;        ///< choice lists and constraints; made with the record
-    ControlHandle embedObject;                         ///< the page last embedded
-    std::array<ControlHandle, kTabCount> tabObjects;   ///< each page's view, by the bit of its mask
-    ControlHandle availabilityObject;                  ///< window for the availability alerts; null: none
-    std::int32_t availabilityInt1 = 0;                 ///< left edge of cyanPane when embedded, in pixels
-    std::int32_t availabilityInt2 = 0;                 ///< half the way from cyanPane to magentaPane, in pixels
-    std::unique_ptr<char[]> ppdScanBuffer;             ///< the block of strings that the choice lists point to
-    ppd_file_s *ppdFile = nullptr;                     ///< the host's parsed PPD; not owned
-    pde::HostCallback *callbackObject = nullptr;       ///< the host's callback; not owned
-    std::uint8_t onTiger = 0;                          ///< 1: the host is too old to have a parsed PPD; in practice 0
-    std::array<char, kPPDPathSize> ppdPath{};          ///< path of the printer's PPD file; empty: unknown
-    std::int32_t inkFirstLine = 0;                     ///< top of the first ink row, in pixels; -1: not measured
-    std::int32_t inkLastLine = 0;                      ///< top of the last ink row, in pixels
-    std::int32_t inkRowHeight = 0;                     ///< height of an ink row, in pixels
-    std::int32_t optionFlagD = 0;                      ///< 0: no Ghostscript, its check box shows unticked
+    std::unique_ptr<PPDOptionTable> ppdOptions;      ///< choice lists and constraints; made with the record
+    ControlHandle embedObject;                       ///< the page last embedded
+    std::array<ControlHandle, kTabCount> tabObjects; ///< each page's view, by the bit of its mask
+    ControlHandle availabilityObject;                ///< window for the availability alerts; null: none
+    std::int32_t availabilityInt1 = 0;               ///< left edge of cyanPane when embedded, in pixels
+    std::int32_t availabilityInt2 = 0;               ///< half the way from cyanPane to magentaPane, in pixels
+    std::unique_ptr<char[]> ppdScanBuffer;           ///< the block of strings that the choice lists point to
+    ppd_file_s *ppdFile = nullptr;                   ///< the host's parsed PPD; not owned
+    pde::HostCallback *callbackObject = nullptr;     ///< the host's callback; not owned
+    std::uint8_t onTiger = 0;                        ///< 1: the host is too old to have a parsed PPD; in practice 0
+    std::array<char, kPPDPathSize> ppdPath{};        ///< path of the printer's PPD file; empty: unknown
+    std::int32_t inkFirstLine = 0;                   ///< top of the first ink row, in pixels; -1: not measured
+    std::int32_t inkLastLine = 0;                    ///< top of the last ink row, in pixels
+    std::int32_t inkRowHeight = 0;                   ///< height of an ink row, in pixels
+    std::int32_t optionFlagD = 0;                    ///< 0: no Ghostscript, its check box shows unticked
 
     PanelContext();
     ~PanelContext();

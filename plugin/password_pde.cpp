@@ -5,6 +5,7 @@
 
 #include "ink/level_display.h"
 #include "ink/summary.h"
+#include "platform/string_object.h"
 #include "plugin/context_lifecycle.h"
 #include "plugin/descriptions.h"
 #include "plugin/log.h"
@@ -12,7 +13,6 @@
 #include "plugin/supported_options.h"
 #include "plugin/survivors.h"
 #include "plugin/view_setup.h"
-#include "platform/string_object.h"
 #include "ppd/ticket.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The panel object that the host drives. Its methods are thin: they log, and hand the work to plain functions over the
-// panel's context record.
+// The panel object that the host drives. Its methods are thin: they log, and hand the work to plain functions over
+// the panel's context record.
 
 #ifndef TESSARIN_PLUGIN_PASSWORD_PDE_H
 #define TESSARIN_PLUGIN_PASSWORD_PDE_H
@@ -34,8 +34,8 @@ public:
     /// record stays allocated.
     ~PasswordPDE() override;
 
-    /// Takes a share of the callback (may be null) and the bundle, and restores the panel's values. Answers the panel,
-    /// which has no context when its record could not be made.
+    /// Takes a share of the callback (may be null) and the bundle, and restores the panel's values. Answers the
+    /// panel, which has no context when its record could not be made.
     PasswordPDE *initWithCallback(const std::shared_ptr<pde::HostCallback> &callback,
                                   const std::shared_ptr<pde::Bundle> &bundle);
 
@@ -65,6 +65,11 @@ public:
 
     /// The panel's record; null before the first restore and when it could not be made.
     PanelContext *panelContext() const { return context; }
+    /// The loaded content view and tab view; null before the first panelView() and when they have gone.
+    QWidget *contentView() const { return TessarinPDEView; }
+    QWidget *tabView() const { return PDETabView; }
+    /// The result of the last event that a control raised; 0 before the first.
+    std::int32_t lastEventResult() const { return eventResult; }
 
 private:
     void loadInterface();
@@ -86,8 +91,10 @@ private:
     QPointer<QWidget> totalConsumptionBox;
     PanelContext *context = nullptr; ///< kept reachable by the record's own registry
 
-    std::vector<QPointer<QWidget>> loadedRoots; ///< top views of the loaded interfaces, the panel's while parentless
-    std::unique_ptr<QObject> actions;           ///< receiver of the controls' signals; cut off with the panel
+    std::int32_t eventResult = 0;
+    std::vector<QPointer<QWidget>>
+        loadedRoots;                  ///< top views of the loaded interfaces, the panel's while parentless
+    std::unique_ptr<QObject> actions; ///< receiver of the controls' signals; cut off with the panel
 };
 
 } // namespace tessarin

@@ -6,6 +6,7 @@
 #include "pde/print_dialog_extension.h"
 #include "platform/bundle.h"
 #include "platform/log_sink.h"
+#include "plugin/diagnostics.h"
 #include "plugin/plugin_factory.h"
 
 #include <QObject>
@@ -14,10 +15,10 @@
 
 namespace tessarin {
 
-class TessarinPDEEntry : public QObject, public pde::PlugInEntry {
+class TessarinPDEEntry : public QObject, public pde::PlugInEntry, public Diagnostics {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID TESSARIN_PDE_PLUGIN_IID FILE "TessarinPDE.json")
-    Q_INTERFACES(tessarin::pde::PlugInEntry)
+    Q_INTERFACES(tessarin::pde::PlugInEntry tessarin::pde::PanelDiagnostics)
 
 public:
     std::shared_ptr<pde::Bundle> openBundle(const QString &directory, const QString &language,

@@ -87,12 +87,13 @@ void processPPDFile(PanelContext *context, ppd_file_s *hostPPD, const char *ppdP
     context->onTiger = onTiger;
     context->ppdFile = hostPPD;
     mybundle = bundle;
-    const std::string inkPath =
-        std::string(kInkFilePrefix) + std::string(std::string_view(printerName).substr(0, kLongestInkName)) +
-        kInkFileSuffix;
+    const std::string inkPath = std::string(kInkFilePrefix) +
+                                std::string(std::string_view(printerName).substr(0, kLongestInkName)) +
+                                kInkFileSuffix;
     copyBounded(context->settings.inkFilePath, inkPath);
     context->callbackObject = callback;
-    context->ppdFile = callback != nullptr ? callback->ppdFile() : nullptr; // in every case, whatever was given above
+    context->ppdFile =
+        callback != nullptr ? callback->ppdFile() : nullptr; // in every case, whatever was given above
     context->ppdScanBuffer.reset();
     ParsePPDFile(ppdPath, context);
 }

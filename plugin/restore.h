@@ -30,8 +30,8 @@ OptionDictionary *myGetPPDDict();
 void enterPPDPathIntoContext(PanelContext *context, const char *path);
 
 /// Sets the context up for a printer: references, ink counter path, choice lists and constraints from the PPD at
-/// `ppdPath`. `hostPPD` is replaced by the callback's own. `callback` may be null; `bundle` becomes the process-wide
-/// source of localised texts.
+/// `ppdPath`. `hostPPD` is replaced by the callback's own. `callback` may be null; `bundle` becomes the
+/// process-wide source of localised texts.
 void processPPDFile(PanelContext *context, ppd_file_s *hostPPD, const char *ppdPath, const char *printerName,
                     pde::HostCallback *callback, pde::Bundle *bundle, unsigned char onTiger);
 
@@ -44,8 +44,8 @@ int MySyncPaneFromTigerTicket(PanelContext *context);
 /// Shows the settings in the controls that exist.
 void MyUpdatePaneFromSettings(PanelContext *context);
 
-/// The path of the current printer's PPD as an ASCII string in `path` (kPPDPathSize characters), empty when it is not
-/// known, too long or not ASCII. Logs the path when the printer has one.
+/// The path of the current printer's PPD as an ASCII string in `path` (kPPDPathSize characters), empty when it is
+/// not known, too long or not ASCII. Logs the path when the printer has one.
 void findPPDPath(pde::HostCallback *callback, char *path);
 
 /// The printer's identifier in `name` (kPrinterNameSize bytes), empty when it has none or it is too long.

@@ -22,16 +22,16 @@ class Bundle;
 }
 
 /// Encoding numbers, handed through unchanged.
-inline constexpr std::uint32_t kEncodingASCII = 1;             ///< the PPD path, the slider formats
-inline constexpr std::uint32_t kEncodingUTF8 = 4;              ///< option keys and choices
+inline constexpr std::uint32_t kEncodingASCII = 1;              ///< the PPD path, the slider formats
+inline constexpr std::uint32_t kEncodingUTF8 = 4;               ///< option keys and choices
 inline constexpr std::uint32_t kEncodingPrinterID = 0x08000100; ///< UTF-8, as printer identifiers name it
 
-/// The plug-in bundle that localised texts come from: process-wide, the one of the panel set up last; null before the
-/// first. Not owned.
+/// The plug-in bundle that localised texts come from: process-wide, the one of the panel set up last; null before
+/// the first. Not owned.
 extern pde::Bundle *mybundle;
 
-/// A new string from a zero-terminated one; null for null, for an unknown encoding, and for bytes beyond ASCII where
-/// the encoding is ASCII. Owned by the caller.
+/// A new string from a zero-terminated one; null for null, for an unknown encoding, and for bytes beyond ASCII
+/// where the encoding is ASCII. Owned by the caller.
 StringRef myCFStringCreateWithCString(const void *allocator, const char *text, std::uint32_t encoding);
 /// A new string with the same characters; null for null. Owned by the caller.
 StringRef myCFStringCreateCopy(const void *allocator, const StringRef &string);
@@ -46,9 +46,9 @@ StringRef myCFStringCreateWithFormat(const void * /*allocator*/, const void * /*
     return myCFStringCreateFormatted(format, std::array<FormatArgument, sizeof...(arguments)>{arguments...});
 }
 
-/// Converts `string` into `buffer` as a zero-terminated string. `size` is the room in bytes, terminator included; it
-/// may be smaller than the buffer. True when the whole string fitted and could be converted; otherwise the buffer
-/// stays as it is.
+/// Converts `string` into `buffer` as a zero-terminated string. `size` is the room in bytes, terminator included;
+/// it may be smaller than the buffer. True when the whole string fitted and could be converted; otherwise the
+/// buffer stays as it is.
 bool myCFStringGetCString(const StringRef &string, char *buffer, std::size_t size, std::uint32_t encoding);
 
 /// Releases a string; null is ignored.

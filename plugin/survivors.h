@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What stays allocated when its owner goes, by design of the panel's life cycle: kept reachable, so that a leak checker
-// finds it, and never destroyed, since views may not be touched once main() has ended.
+// What stays allocated when its owner goes, by design of the panel's life cycle: kept reachable, so that a leak
+// checker finds it, and never destroyed, since views may not be touched once main() has ended.
 
 #ifndef TESSARIN_PLUGIN_SURVIVORS_H
 #define TESSARIN_PLUGIN_SURVIVORS_H

@@ -18,8 +18,8 @@ class ConstraintCollector {
 public:
     explicit ConstraintCollector(PPDOptionTable &table) : table_(table) {}
 
-    /// Takes the constraint that the line holds, if it holds one that is kept: four words, known options, the second
-    /// option later in `pops` than the first (the mirror line is not kept), and a place left.
+    /// Takes the constraint that the line holds, if it holds one that is kept: four words, known options, the
+    /// second option later in `pops` than the first (the mirror line is not kept), and a place left.
     void takeLine(const char *line);
     /// Writes the end mark behind the last group.
     void finish();
@@ -32,8 +32,8 @@ private:
 /// Makes the constraint list empty.
 void clearConstraints(PPDOptionTable &table);
 
-/// Finds which entries of a pop-up the selections of earlier pop-ups forbid, moves the row's selection off them, and
-/// refills the pop-up. The moved selection is stored, not sent to the host.
+/// Finds which entries of a pop-up the selections of earlier pop-ups forbid, moves the row's selection off them,
+/// and refills the pop-up. The moved selection is stored, not sent to the host.
 void checkConstraintsForMenu(PanelContext *context, int row);
 
 } // namespace tessarin

@@ -23,7 +23,7 @@ constexpr std::size_t kStringBlockSize = 10000; // bytes for all keys and displa
 constexpr int kStringBlockFill = 0x40;
 constexpr std::size_t kLongestDefaultKeyword = 120; // characters
 constexpr std::size_t kStringLimit = 128;           // bytes of a key or display text, terminator included
-constexpr std::size_t kLastKeywordColumn = 4;       // a choice line's keyword begins within the first five characters
+constexpr std::size_t kLastKeywordColumn = 4; // a choice line's keyword begins within the first five characters
 
 using Line = std::array<char, kScanLineSize>;
 

@@ -26,8 +26,8 @@ public:
     /// False when the block of strings could not be made.
     bool isReady() const { return next_ != nullptr; }
 
-    /// Takes a line that opens a block, and with it the block's lines from `file` if the option is the panel's. False
-    /// when the line opens no block.
+    /// Takes a line that opens a block, and with it the block's lines from `file` if the option is the panel's.
+    /// False when the line opens no block.
     bool takeBlock(const char *line, std::FILE *file);
 
 private:

@@ -72,8 +72,8 @@ int findppditem(const PPDOptionTable &choiceLists, int row, const char *choiceKe
     while (index < pairs && std::strcmp(pairKey(list, index + 1), choiceKey) != 0) {
         ++index;
     }
-    // An unknown choice of a known option counts as the place after the last one: its constraint is kept and takes a
-    // place, but matches no entry.
+    // An unknown choice of a known option counts as the place after the last one: its constraint is kept and takes
+    // a place, but matches no entry.
     return pairs == 0 ? -1 : index;
 }
 

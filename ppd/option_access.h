@@ -44,7 +44,8 @@ int GetPPDValue(const OptionDictionary *dictionary, const char *keyword, ChoiceL
 /// Asks the host for a choice; true when it accepts. False without a host.
 bool MySetPPDOption(PanelContext *context, const char *keyword, const char *choiceKey);
 
-/// Sends a choice to the host, whose answer is ignored. A null keyword or choice is not sent. `reserved` is not read.
+/// Sends a choice to the host, whose answer is ignored. A null keyword or choice is not sent. `reserved` is not
+/// read.
 void setPPDValue(PanelContext *context, int reserved, const char *keyword, const char *choiceKey);
 
 /// Sets one entry of a dictionary when both texts are present.

@@ -17,9 +17,9 @@
 
 namespace tessarin {
 
-inline constexpr std::size_t kChoiceRows = 15;  ///< one per `pops` row; those beyond that table stay empty
-inline constexpr std::size_t kMostPairs = 82;   ///< 81 choices and a separator
-inline constexpr std::size_t kRowSlots = 168;   ///< slot 0, the pairs, the null key, and some to spare
+inline constexpr std::size_t kChoiceRows = 15; ///< one per `pops` row; those beyond that table stay empty
+inline constexpr std::size_t kMostPairs = 82;  ///< 81 choices and a separator
+inline constexpr std::size_t kRowSlots = 168;  ///< slot 0, the pairs, the null key, and some to spare
 inline constexpr std::size_t kMostConstraints = 50;
 inline constexpr std::size_t kConstraintSlots = 4 * kMostConstraints + 1;
 static_assert(kRowSlots > 2 * kMostPairs + 1, "the null key after the last pair needs a slot");

@@ -19,8 +19,8 @@ bool startsSeparatedChoices(int row, const char *key);
 /// Whether a media type's display text is marked with " *": its key ends in '0'.
 bool isMarkedMedia(int row, std::string_view key);
 
-/// Builds the choice list of every `pops` row from the context's parsed PPD, in a new scan buffer of exactly the size
-/// needed. Rows without option or choices, and all rows when out of memory, stay empty. Always 0.
+/// Builds the choice list of every `pops` row from the context's parsed PPD, in a new scan buffer of exactly the
+/// size needed. Rows without option or choices, and all rows when out of memory, stay empty. Always 0.
 int getPPDComboOptions(PanelContext *context);
 
 /// Sets the selection of every `pops` row from the PPD's marked choice, else its default. 0 when the option or its

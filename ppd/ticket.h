@@ -11,8 +11,8 @@
 
 namespace tessarin {
 
-/// Reads every control into the settings and sends all check boxes, pop-ups and sliders to the host. A missing check
-/// box sends nothing; for a missing pop-up or slider the stored value is sent. Always 0.
+/// Reads every control into the settings and sends all check boxes, pop-ups and sliders to the host. A missing
+/// check box sends nothing; for a missing pop-up or slider the stored value is sent. Always 0.
 int MySyncTicketFromPane(PanelContext *context);
 
 /// Sends the choice that a person just made in a pop-up; `selection` is its 1-based pair number. True when the host
