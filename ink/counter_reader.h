@@ -9,21 +9,10 @@
 #ifndef TESSARIN_INK_COUNTER_READER_H
 #define TESSARIN_INK_COUNTER_READER_H
 
+#include "ink/counter_text.h"
 #include "plugin/panel_context.h"
 
-#include <cstddef>
-#include <cstdio>
-
 namespace tessarin {
-
-/// Size of the buffer for one line, terminator included. A longer line is seen in pieces, each scanned on its own.
-inline constexpr int kInkLineSize = 256;
-
-/// Reads one line of up to `size` - 1 bytes into `buffer`, from `stream` or, when that is null, from memory:
-/// `cursor` points to the next byte and `remaining` counts the bytes left; both are advanced. A line from a stream
-/// keeps its line end (LF, CR LF or CR); a line from memory does not, and the line ends behind it are skipped.
-/// Answers `buffer`, or null at the end.
-char *myGets(char *buffer, int size, std::FILE *stream, const char **cursor, std::size_t *remaining);
 
 /// Reads the counters into the context's settings: from the file at `path`, else from the PPD's extra data. Without
 /// either all channels are hidden.
