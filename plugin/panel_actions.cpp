@@ -20,12 +20,33 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QComboBox>
+#include <QEvent>
+
+#include <functional>
+#include <utility>
 
 namespace tessarin {
 
 namespace {
 
 constexpr char kInterfaceName[] = "TessarinPDE_C";
+
+/// Receives the actions of the panel's controls, and tells of mouse clicks that no control took.
+class ActionReceiver : public QObject {
+public:
+    explicit ActionReceiver(std::function<void()> mouseUp) : mouseUp_(std::move(mouseUp)) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease) {
+            mouseUp_();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> mouseUp_;
+};
 
 void setOutlet(QWidget *root, const char *name, QPointer<QWidget> &outlet)
 {
@@ -72,7 +93,10 @@ void PasswordPDE::connectActions(QWidget *root)
     // By view, since tags change. Only a person's actions arrive: the control layer sets values with signals
     // blocked.
     if (!actions) {
-        actions = std::make_unique<QObject>();
+        actions = std::make_unique<ActionReceiver>([this] { mouseUp(); });
+    }
+    if (TessarinPDEView) {
+        TessarinPDEView->installEventFilter(actions.get());
     }
     const auto popups = root->findChildren<QComboBox *>();
     for (QComboBox *popup : popups) {
