@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The arguments of the program and its exit codes.
+
+#ifndef TESSARIN_HOST_COMMAND_LINE_H
+#define TESSARIN_HOST_COMMAND_LINE_H
+
+#include "host/outcome.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace tessarin::host {
+
+/// How the program ends.
+enum class ExitCode : int {
+    Printed = 0,   ///< printed, or pictures made
+    Cancelled = 1, ///< the user closed the dialog without printing
+    Usage = 2,     ///< arguments that make no sense, or a file they name that cannot be written
+    Printer = 3,   ///< an unreadable PPD, an unknown queue, an unreachable print server
+    Document = 4,  ///< a document that cannot be read
+    PlugIn = 5,    ///< the panel's plug-in cannot be loaded
+};
+
+/// What the user asked for. An empty text is an option that was not given.
+struct CommandLine {
+    QString ppdFile{};
+    QString queue{};      ///< "queue" or "queue/instance"; never together with ppdFile
+    QString ticketFile{}; ///< "-": standard output
+    QString log{};        ///< as for logSinkFor()
+    QString bundle{};
+    QString language{};
+    QString picturesDirectory{}; ///< not empty: make pictures in place of a window
+    QStringList documents{};     ///< "-": standard input
+};
+
+/// Reads the arguments, the program's own name first. The reason of a failure is a message without program name.
+Outcome<CommandLine> parseCommandLine(const QStringList &arguments);
+
+/// True when the arguments ask for the help text, or the version, whatever else they say.
+bool asksForHelp(int argc, const char *const *argv);
+bool asksForVersion(int argc, const char *const *argv);
+/// The help text with the exit codes. Needs an application object.
+QString helpText();
+
+} // namespace tessarin::host
+
+#endif

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "host/cups_connection.h"
+
+#include "host/text.h"
+
+#include <cstring>
+
+namespace tessarin::host {
+
+namespace {
+
+constexpr int kConnectMilliseconds = 5000;
+constexpr double kAnswerSeconds = 15.0;
+
+/// The server as a person would write it: a socket's path, or host and port.
+QString serverName()
+{
+    const QString server = QString::fromUtf8(cupsServer());
+    return server.startsWith(u'/') ? server : server + u':' + QString::number(ippPort());
+}
+
+/// Whether the server answers a small question in time. Some of libcups' calls open connections of their own, which
+/// wait for minutes, so that none of them is made before this is known.
+bool answers(http_t *http)
+{
+    ipp_t *response = cupsDoRequest(http, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"); // frees the request
+    const bool answered = response != nullptr;
+    ippDelete(response);
+    return answered;
+}
+
+Outcome<CupsConnection> unreachable(const QString &why)
+{
+    return Outcome<CupsConnection>::failed(
+        TessarinPrint::tr("print server %1: it cannot be reached: %2").arg(serverName(), why));
+}
+
+} // namespace
+
+QString lastCupsError()
+{
+    const QString text = QString::fromUtf8(cupsLastErrorString());
+    if (text == QString::fromUtf8(std::strerror(0))) {
+        return TessarinPrint::tr("the connection was lost"); // a broken connection leaves no other trace
+    }
+    return text.isEmpty() ? QString::fromUtf8(ippErrorString(cupsLastError())) : text;
+}
+
+Outcome<CupsConnection> connectToPrintServer()
+{
+    cupsSetPasswordCB2(
+        [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; },
+        nullptr);
+    CupsConnection connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                           kConnectMilliseconds, nullptr));
+    if (!connection) {
+        // libcups says "host is down" of a server that refuses connections, too.
+        const bool refused = cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE;
+        return unreachable(refused ? TessarinPrint::tr("nothing answers there") : lastCupsError());
+    }
+    httpSetTimeout(
+        connection.get(), kAnswerSeconds, [](http_t *, void *) { return 0; }, nullptr);
+    if (!answers(connection.get())) {
+        // After a silence libcups has no more to say than "internal error" and a stale system error.
+        const ipp_status_t status = cupsLastError();
+        const bool silent = status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE ||
+                            status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+        return unreachable(silent ? TessarinPrint::tr("it does not answer") : lastCupsError());
+    }
+    return connection;
+}
+
+Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QString &instance)
+{
+    const QByteArray instanceName = instance.toUtf8();
+    CupsDestination destination(
+        cupsGetNamedDest(http, name.toUtf8().constData(), instance.isEmpty() ? nullptr : instanceName.constData()));
+    if (destination) {
+        return destination;
+    }
+    const ipp_status_t status = cupsLastError();
+    const bool unknown = status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND;
+    const QString why = unknown
+                            ? TessarinPrint::tr("the print server %1 has no queue of this name").arg(serverName())
+                            : TessarinPrint::tr("the print server %1 says: %2").arg(serverName(), lastCupsError());
+    const QString shown = instance.isEmpty() ? name : name + u'/' + instance;
+    return Outcome<CupsDestination>::failed(TessarinPrint::tr("queue %1: %2").arg(shown, why));
+}
+
+} // namespace tessarin::host

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A connection to the print server that never waits without end.
+
+#ifndef TESSARIN_HOST_CUPS_CONNECTION_H
+#define TESSARIN_HOST_CUPS_CONNECTION_H
+
+#include "host/outcome.h"
+
+#include <memory>
+
+#include <cups/cups.h>
+
+namespace tessarin::host {
+
+struct ConnectionCloser {
+    void operator()(http_t *http) const { httpClose(http); }
+};
+using CupsConnection = std::unique_ptr<http_t, ConnectionCloser>;
+
+struct DestinationFreer {
+    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
+};
+using CupsDestination = std::unique_ptr<cups_dest_t, DestinationFreer>;
+
+/// Connects to the user's print server (CUPS_SERVER, client.conf, or the local one) for use on the calling thread.
+/// Waits a few seconds at most, here and for each answer later. A server that asks for a password is answered
+/// with none: libcups would else ask on the terminal. The reason of a failure names the server.
+Outcome<CupsConnection> connectToPrintServer();
+
+/// Looks a queue up, with its own and the user's saved options. `instance` may be empty. The reason of a failure
+/// names the queue.
+Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QString &instance);
+
+/// Why the last libcups call on this thread failed.
+QString lastCupsError();
+
+} // namespace tessarin::host
+
+#endif

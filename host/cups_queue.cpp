@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "host/cups_queue.h"
+
+#include "host/cups_connection.h"
+#include "host/text.h"
+
+#include "cups/ppd_library.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <array>
+#include <cstring>
+
+namespace tessarin::host {
+
+namespace {
+
+constexpr std::size_t kPathBytes = 1024; // as libcups' own path buffers
+
+} // namespace
+
+QueueName QueueName::fromText(const QString &text)
+{
+    const qsizetype slash = text.indexOf(u'/');
+    return {.queue = slash < 0 ? text : text.left(slash), .instance = slash < 0 ? QString() : text.mid(slash + 1)};
+}
+
+QString QueueName::text() const
+{
+    return instance.isEmpty() ? queue : queue + u'/' + instance;
+}
+
+Outcome<QueueDescription> describeQueue(const QueueName &name)
+{
+    using Result = Outcome<QueueDescription>;
+    const Outcome<CupsConnection> connection = connectToPrintServer();
+    if (!connection.ok()) {
+        return Result::failed(connection.reason());
+    }
+    http_t *http = connection.value().get();
+    const Outcome<CupsDestination> destination = findQueue(http, name.queue, name.instance);
+    if (!destination.ok()) {
+        return Result::failed(destination.reason());
+    }
+    QueueDescription queue;
+    queue.name = name;
+    queue.savedOptions = jobOptionsOf(destination.value()->num_options, destination.value()->options);
+
+    queue.directory = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/tessarin-print-XXXXXX"));
+    if (!queue.directory->isValid()) {
+        return Result::failed(TessarinPrint::tr("folder for the PPD of queue %1: %2")
+                                  .arg(name.text(), queue.directory->errorString()));
+    }
+    queue.ppdPath = queue.directory->filePath(QStringLiteral("printer.ppd"));
+    const QByteArray path = QFile::encodeName(queue.ppdPath);
+    std::array<char, kPathBytes> buffer = {};
+    if (static_cast<std::size_t>(path.size()) >= buffer.size()) {
+        return Result::failed(TessarinPrint::tr("folder for the PPD of queue %1: the path %2 is too long")
+                                  .arg(name.text(), queue.ppdPath));
+    }
+    std::memcpy(buffer.data(), path.constData(), static_cast<std::size_t>(path.size()));
+    time_t modified = 0;
+    const http_status_t status =
+        cupsGetPPD3(http, name.queue.toUtf8().constData(), &modified, buffer.data(), buffer.size());
+    if (status != HTTP_STATUS_OK) {
+        const QString why = status == HTTP_STATUS_NOT_FOUND
+                                ? TessarinPrint::tr("it has no PPD file (a queue without a driver)")
+                                : TessarinPrint::tr("its PPD file cannot be fetched: %1").arg(lastCupsError());
+        return Result::failed(TessarinPrint::tr("queue %1: %2").arg(name.text(), why));
+    }
+    return queue;
+}
+
+} // namespace tessarin::host

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "host/host_printer.h"
+
+#include <QFileInfo>
+
+#include <utility>
+
+namespace tessarin::host {
+
+using PrinterOutcome = Outcome<std::shared_ptr<HostPrinter>>;
+
+HostPrinter::HostPrinter(Parts parts, PpdHandle ppd)
+    : kind_(parts.kind), path_(std::move(parts.path)), identifier_(std::move(parts.identifier)),
+      queue_(std::move(parts.queue)), ppd_(std::move(ppd))
+{}
+
+PrinterOutcome HostPrinter::open(Parts parts)
+{
+    Outcome<PpdHandle> ppd = openPpd(parts.path);
+    if (!ppd.ok()) {
+        return PrinterOutcome::failed(ppd.reason());
+    }
+    const CupsOptions &saved = parts.queue.savedOptions;
+    cupsMarkOptions(ppd.value().get(), saved.count(), saved.data());
+    return std::shared_ptr<HostPrinter>(new HostPrinter(std::move(parts), ppd.take()));
+}
+
+PrinterOutcome HostPrinter::fromPpdFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString base = file.completeBaseName();
+    return open(
+        {.kind = PrinterKind::PpdFile, .path = path, .identifier = base.isEmpty() ? file.fileName() : base});
+}
+
+PrinterOutcome HostPrinter::sample(const QString &path)
+{
+    return open({.kind = PrinterKind::Sample, .path = path, .identifier = QStringLiteral("sample")});
+}
+
+PrinterOutcome HostPrinter::fromQueue(const QueueName &name)
+{
+    Outcome<QueueDescription> queue = describeQueue(name);
+    if (!queue.ok()) {
+        return PrinterOutcome::failed(queue.reason());
+    }
+    const QString path = queue.value().ppdPath;
+    return open({.kind = PrinterKind::Queue, .path = path, .identifier = name.queue, .queue = queue.take()});
+}
+
+std::optional<QString> HostPrinter::descriptionPath(const QString &descriptionType) const
+{
+    if (descriptionType != QLatin1String(pde::kPPDDescriptionType)) {
+        return std::nullopt;
+    }
+    return path_;
+}
+
+std::optional<QString> HostPrinter::identifier() const
+{
+    return identifier_;
+}
+
+QString HostPrinter::displayName() const
+{
+    const QString nickname = ppdNickname(*ppd_);
+    return nickname.isEmpty() ? identifier_ : nickname;
+}
+
+} // namespace tessarin::host

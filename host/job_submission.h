@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Sending a job to the print server.
+
+#ifndef TESSARIN_HOST_JOB_SUBMISSION_H
+#define TESSARIN_HOST_JOB_SUBMISSION_H
+
+#include "host/cups_queue.h"
+#include "host/documents.h"
+#include "host/outcome.h"
+#include "host/ticket.h"
+
+#include <QString>
+
+#include <atomic>
+#include <vector>
+
+namespace tessarin::host {
+
+/// A job to send: copies only, so that it can be sent on any thread.
+struct JobRequest {
+    QueueName queue{};
+    std::vector<JobDocument> documents{}; ///< at least one; they become one job in this order
+    JobTicket ticket{};
+};
+
+/// Sends a job and waits until the print server has taken all of it. The job's options are the queue's and the
+/// user's saved ones with the ticket's over them, each sent explicitly. The result is the job's number. When it
+/// fails, or `cancelled` becomes true on the way, the begun job is taken back; the reason names queue or document.
+Outcome<int> submitJob(const JobRequest &request, const std::atomic<bool> &cancelled);
+
+} // namespace tessarin::host
+
+#endif
