@@ -89,6 +89,22 @@ int takePictures(PrintDialog &dialog, const DialogCallback &callback, const Comm
     return static_cast<int>(ExitCode::Printed);
 }
 
+/// The panel's summary in place of a window. Nothing is submitted.
+int printSummary(PrintDialog &dialog, SummaryForm form)
+{
+    const std::optional<QList<SummaryLine>> lines = dialog.currentSummary();
+    if (!lines) {
+        return fail(ExitCode::PlugIn, dialog.panelProblem().isEmpty()
+                                          ? TessarinPrint::tr("the panel gives no summary")
+                                          : dialog.panelProblem());
+    }
+    const QString text = form == SummaryForm::Json ? summaryJson(*lines) : summaryText(*lines);
+    if (std::fputs(text.toUtf8().constData(), stdout) < 0 || std::fflush(stdout) != 0) {
+        return fail(ExitCode::Usage, TessarinPrint::tr("standard output: the summary cannot be written"));
+    }
+    return static_cast<int>(ExitCode::Printed);
+}
+
 std::unique_ptr<Delivery> makeDelivery(const CommandLine &line, const HostPrinter &printer,
                                        const Documents &documents)
 {
@@ -129,6 +145,9 @@ int runDialog(const CommandLine &line)
                         .plugIn = plugIn.value().plugIn.get(),
                         .delivery = delivery.get(),
                         .documentNames = names});
+    if (line.summary != SummaryForm::None) {
+        return printSummary(dialog, line.summary);
+    }
     if (!line.picturesDirectory.isEmpty()) {
         return takePictures(dialog, *callback, line);
     }
@@ -164,7 +183,8 @@ int runApplication(int argc, char **argv)
     }
     const QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
-    if (noDisplay) {
+    const bool needsWindow = !asksForSummary(argc, argv);
+    if (noDisplay && needsWindow) {
         arguments.insert(1, QStringLiteral("--pictures=") + defaultPicturesDirectory());
     }
     const Outcome<CommandLine> line = parseCommandLine(arguments);
@@ -172,7 +192,7 @@ int runApplication(int argc, char **argv)
         return fail(ExitCode::Usage, line.reason());
     }
     const int code = runDialog(line.value());
-    if (noDisplay && code == static_cast<int>(ExitCode::Printed)) {
+    if (noDisplay && needsWindow && code == static_cast<int>(ExitCode::Printed)) {
         say(TessarinPrint::tr("there is no display: to get a window, run this in a desktop session, set DISPLAY or "
                               "WAYLAND_DISPLAY, or use a virtual display: xvfb-run -a tessarin-print"));
     }

@@ -44,13 +44,18 @@ struct Options {
                           "job's options on standard output. Without a display this happens anyway, "
                           "in ./tessarin-pages."),
         TessarinPrint::tr("folder")};
+    QCommandLineOption summary{
+        QStringLiteral("summary"),
+        TessarinPrint::tr("Print nothing and open no window: list the settings on standard output, as text or, "
+                          "with \"json\", as JSON."),
+        TessarinPrint::tr("[json]")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, TessarinPrint::tr("Show this text.")};
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
                                TessarinPrint::tr("Show the version.")};
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions({ppd, printer, ticket, log, bundle, language, pictures, help, version});
+        parser.addOptions({ppd, printer, ticket, log, bundle, language, pictures, summary, help, version});
         parser.addPositionalArgument(QStringLiteral("document"),
                                      TessarinPrint::tr("The documents to print (\"-\": standard input)."),
                                      QStringLiteral("[document...]"));
@@ -77,7 +82,8 @@ QString contradiction(const CommandLine &line)
     if (!line.ppdFile.isEmpty() && !line.queue.isEmpty()) {
         return TessarinPrint::tr("usage: --ppd and --printer cannot be given together: one printer at a time");
     }
-    if (!line.queue.isEmpty() && line.documents.isEmpty() && line.picturesDirectory.isEmpty()) {
+    const bool opensWindow = line.picturesDirectory.isEmpty() && line.summary == SummaryForm::None;
+    if (!line.queue.isEmpty() && line.documents.isEmpty() && opensWindow) {
         return TessarinPrint::tr("usage: no document: there is nothing to print on queue %1").arg(line.queue);
     }
     if (line.documents.count(QStringLiteral("-")) > 1) {
@@ -95,6 +101,39 @@ QString contradiction(const CommandLine &line)
     return {};
 }
 
+/// The arguments with a form behind every --summary, which people give as a word of its own or leave out.
+QStringList withSummaryForm(const QStringList &arguments)
+{
+    QStringList result;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == QLatin1String("--")) {
+            return result + arguments.mid(i);
+        }
+        if (arguments[i] != QLatin1String("--summary")) {
+            result << arguments[i];
+            continue;
+        }
+        const QString next = arguments.value(i + 1);
+        const bool named = next == QLatin1String("json") || next == QLatin1String("text");
+        result << QStringLiteral("--summary=") + (named ? next : QStringLiteral("text"));
+        i += named ? 1 : 0;
+    }
+    return result;
+}
+
+Outcome<SummaryForm> summaryForm(const QCommandLineParser &parser, const QCommandLineOption &option)
+{
+    const QString form = parser.value(option);
+    if (!parser.isSet(option)) {
+        return SummaryForm::None;
+    }
+    if (form != QLatin1String("text") && form != QLatin1String("json")) {
+        return Outcome<SummaryForm>::failed(
+            TessarinPrint::tr("usage: --summary %1: not a form, which is text or json").arg(form));
+    }
+    return form == QLatin1String("json") ? SummaryForm::Json : SummaryForm::Text;
+}
+
 } // namespace
 
 Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
@@ -103,7 +142,7 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
     const Options options;
     QCommandLineParser parser;
     options.addTo(parser);
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(withSummaryForm(arguments))) {
         return Result::failed(TessarinPrint::tr("usage: %1").arg(parser.errorText()));
     }
     for (const QCommandLineOption &option : {options.ppd, options.printer, options.ticket, options.log,
@@ -113,6 +152,10 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
                 TessarinPrint::tr("usage: --%1: the value is empty").arg(option.names().constLast()));
         }
     }
+    const Outcome<SummaryForm> summary = summaryForm(parser, options.summary);
+    if (!summary.ok()) {
+        return Result::failed(summary.reason());
+    }
     const CommandLine line{.ppdFile = parser.value(options.ppd),
                            .queue = parser.value(options.printer),
                            .ticketFile = parser.value(options.ticket),
@@ -120,6 +163,7 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
                            .bundle = parser.value(options.bundle),
                            .language = parser.value(options.language),
                            .picturesDirectory = parser.value(options.pictures),
+                           .summary = summary.value(),
                            .documents = parser.positionalArguments()};
     const QString wrong = contradiction(line);
     return wrong.isEmpty() ? Result(line) : Result::failed(wrong);
@@ -133,6 +177,11 @@ bool asksForHelp(int argc, const char *const *argv)
 bool asksForVersion(int argc, const char *const *argv)
 {
     return mentions(argc, argv, "-v", "--version");
+}
+
+bool asksForSummary(int argc, const char *const *argv)
+{
+    return mentions(argc, argv, "--summary", "--summary=json") || mentions(argc, argv, "--summary=text", "");
 }
 
 QString helpText()

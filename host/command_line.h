@@ -23,6 +23,9 @@ enum class ExitCode : int {
     PlugIn = 5,    ///< the panel's plug-in cannot be loaded
 };
 
+/// How the summary is printed in place of a window.
+enum class SummaryForm { None, Text, Json };
+
 /// What the user asked for. An empty text is an option that was not given.
 struct CommandLine {
     QString ppdFile{};
@@ -32,7 +35,8 @@ struct CommandLine {
     QString bundle{};
     QString language{};
     QString picturesDirectory{}; ///< not empty: make pictures in place of a window
-    QStringList documents{};     ///< "-": standard input
+    SummaryForm summary = SummaryForm::None;
+    QStringList documents{}; ///< "-": standard input
 };
 
 /// Reads the arguments, the program's own name first. The reason of a failure is a message without program name.
@@ -41,6 +45,8 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments);
 /// True when the arguments ask for the help text, or the version, whatever else they say.
 bool asksForHelp(int argc, const char *const *argv);
 bool asksForVersion(int argc, const char *const *argv);
+/// True when the arguments ask for the summary.
+bool asksForSummary(int argc, const char *const *argv);
 /// The help text with the exit codes. Needs an application object.
 QString helpText();
 

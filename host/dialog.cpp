@@ -111,7 +111,11 @@ QWidget *PrintDialog::makeBody()
     if (session_.view) {
         area_ = new PanelArea(body);
         area_->showView(session_.view);
-        column->addWidget(area_, 1);
+        summary_ = new SummaryPage(body);
+        pages_ = new QStackedWidget(body);
+        pages_->addWidget(area_);
+        pages_->addWidget(summary_);
+        column->addWidget(pages_, 1);
     } else {
         column->addWidget(
             makeNote(TessarinPrint::tr("You can print all the same, with the printer's own settings."), body));
@@ -136,6 +140,15 @@ QWidget *PrintDialog::makeFooter()
 
     auto *row = new QHBoxLayout(footer);
     row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+    if (pages_) {
+        toSummary_ = new QPushButton(TessarinPrint::tr("&Summary"), footer);
+        toSummary_->setObjectName(QStringLiteral("toSummary"));
+        toSummary_->setCheckable(true);
+        toSummary_->setAutoDefault(false);
+        toSummary_->setToolTip(TessarinPrint::tr("List all settings as Print will send them"));
+        connect(toSummary_, &QPushButton::toggled, this, &PrintDialog::showSummary);
+        row->addWidget(toSummary_);
+    }
     row->addWidget(status_, 1);
     row->addWidget(buttons);
     return footer;
@@ -163,6 +176,24 @@ void PrintDialog::saveSettings()
     if (session_.panel) {
         session_.panel->saveValuesAndReturnError(nullptr);
     }
+}
+
+std::optional<QList<SummaryLine>> PrintDialog::currentSummary()
+{
+    if (!session_.panel) {
+        return std::nullopt;
+    }
+    saveSettings(); // the panel's summary shows what was last stored
+    const std::optional<pde::Summary> summary = session_.panel->summaryInfo();
+    return summary ? std::optional(summaryLines(*summary)) : std::nullopt;
+}
+
+void PrintDialog::showSummary(bool shown)
+{
+    if (shown) {
+        summary_->showLines(currentSummary().value_or(QList<SummaryLine>()));
+    }
+    pages_->setCurrentWidget(shown ? static_cast<QWidget *>(summary_) : area_);
 }
 
 void PrintDialog::print()

@@ -10,16 +10,19 @@
 #include "host/host_callback.h"
 #include "host/panel_area.h"
 #include "host/panel_session.h"
+#include "host/summary_page.h"
 
 #include "pde/print_dialog_extension.h"
 
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace tessarin::host {
 
@@ -47,6 +50,9 @@ public:
 
     /// Makes the panel put its settings into the ticket.
     void saveSettings();
+    /// The summary of the settings as they stand now: the panel is saved first. Nothing when there is no panel or
+    /// it gives none.
+    std::optional<QList<SummaryLine>> currentSummary();
     /// The view of the panel; null when there is none.
     QWidget *panelView() const { return session_.view; }
     const PanelSession &panelSession() const { return session_; }
@@ -67,13 +73,17 @@ private:
     void print();
     void finish(const QString &failure);
     void setDelivering(bool delivering);
+    void showSummary(bool shown);
 
     DialogParts parts_;
     PanelSession session_;
     bool delivering_ = false;
-    bool stopping_ = false;     ///< the user asked to stop the running delivery
-    QWidget *body_ = nullptr;   ///< owned by the dialog, as the following
-    PanelArea *area_ = nullptr; ///< null when there is no view
+    bool stopping_ = false;            ///< the user asked to stop the running delivery
+    QWidget *body_ = nullptr;          ///< owned by the dialog, as the following
+    PanelArea *area_ = nullptr;        ///< null when there is no view
+    QStackedWidget *pages_ = nullptr;  ///< panel and summary; null when there is no view
+    SummaryPage *summary_ = nullptr;   ///< null when there is no view
+    QPushButton *toSummary_ = nullptr; ///< null when there is no view
     QLabel *status_ = nullptr;
     QPushButton *print_ = nullptr;
     QPushButton *cancel_ = nullptr;

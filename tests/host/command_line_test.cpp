@@ -108,7 +108,7 @@ TEST(CommandLine, NamesEveryOptionAndExitCodeInTheHelpText)
 {
     const QString text = helpText();
     for (const char *word : {"--ppd", "--printer", "--ticket", "--log", "--bundle", "--language", "--pictures",
-                             "--help", "--version", "5 plug-in"}) {
+                             "--summary", "--help", "--version", "5 plug-in"}) {
         EXPECT_TRUE(text.contains(QLatin1String(word))) << word;
     }
 }
