@@ -67,7 +67,7 @@ QString PasswordPDE::panelName()
 QString PasswordPDE::panelKind()
 {
     _PDEProlog(describe(this), "panelKind:");
-    const QString kind = QString::fromLatin1(kPanelKind);
+    QString kind = QString::fromLatin1(kPanelKind);
     _PDEEpilog(describe(this), "panelKind:=NSString(%@)", describe(kind));
     return kind;
 }
