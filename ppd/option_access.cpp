@@ -105,6 +105,9 @@ int getPPDOptionSelectionValue(PanelContext *context, const char *keyword, std::
     if (textOut != nullptr) {
         _VERBOSE("ppdFindChoice returned choice #%d\n", choice - option->choices);
         copyBounded({textOut, textSize}, choice->choice);
+        if (textSize > 0) {
+            textOut[textSize - 1] = '\0'; // behind a shorter name too
+        }
         return 0;
     }
     const std::optional<std::int32_t> number = readInteger(choice->choice);
