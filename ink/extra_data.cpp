@@ -84,7 +84,7 @@ public:
             if (code < 0) {
                 std::fprintf(stderr, "ERROR: inflate returned %d (%s)\n", code, messageOf(stream_));
             }
-            if (code < 0 || code == Z_STREAM_END) {
+            if (code != Z_OK) { // an error, the end, or a dictionary wanted: no call would take more input
                 return true;
             }
         }

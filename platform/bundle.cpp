@@ -24,9 +24,10 @@ std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory,
     const QString path = QDir(directory).filePath(QStringLiteral("bundle.json"));
     const QFileInfo info(path);
     QFile file(path);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        *reason = path + QStringLiteral(": ") +
-                  (info.exists() && !info.isFile() ? QStringLiteral("not a regular file") : file.errorString());
+    const bool special = info.exists() && !info.isFile();
+    if (special || !file.open(QIODevice::ReadOnly)) {
+        *reason =
+            path + QStringLiteral(": ") + (special ? QStringLiteral("not a regular file") : file.errorString());
         return nullptr;
     }
     QJsonParseError error;
@@ -63,10 +64,10 @@ bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)
     }
     const QStringList wanted = QLocale().uiLanguages();
     for (const QString &tag : wanted) {
-        QString code = tag;
-        code.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (code.section(QLatin1Char('_'), 0, 0) == english || code == QLatin1String("C") ||
-            loadTranslation(code) || loadTranslation(code.section(QLatin1Char('_'), 0, 0))) {
+        // A tag may leave out its country ("pt" of Brazil): the translation for the country comes first.
+        const QString full = QLocale(tag).name();
+        const QString plain = full.section(QLatin1Char('_'), 0, 0);
+        if (plain == english || plain == QLatin1String("C") || loadTranslation(full) || loadTranslation(plain)) {
             break;
         }
     }

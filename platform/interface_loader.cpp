@@ -6,6 +6,7 @@
 #include "platform/popup_button.h"
 #include "platform/tab_view.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -51,14 +52,20 @@ std::unique_ptr<QWidget> loadInterfaceFile(const QString &path, const QHash<QStr
 {
     const QFileInfo info(path);
     QFile file(path);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        *reason = info.exists() && !info.isFile() ? path + QStringLiteral(": not a regular file")
-                                                  : path + QStringLiteral(": ") + file.errorString();
+    const bool special = info.exists() && !info.isFile();
+    if (special || !file.open(QIODevice::ReadOnly)) {
+        *reason =
+            path + QStringLiteral(": ") + (special ? QStringLiteral("not a regular file") : file.errorString());
         return nullptr;
     }
     ViewLoader loader(makers);
     loader.setWorkingDirectory(info.dir());
-    std::unique_ptr<QWidget> view(loader.load(&file));
+    // The loader would translate texts through the application's translators, whatever it is told.
+    QByteArray content = file.readAll();
+    content.replace("<string>", "<string notr=\"true\">");
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    std::unique_ptr<QWidget> view(loader.load(&buffer));
     if (!view) {
         *reason = path + QStringLiteral(": ") + loader.errorString();
     }

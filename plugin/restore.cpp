@@ -78,6 +78,7 @@ OptionDictionary *myGetPPDDict()
 void enterPPDPathIntoContext(PanelContext *context, const char *path)
 {
     copyBounded(context->ppdPath, path);
+    context->ppdPath.back() = '\0'; // behind a shorter path too
 }
 
 void processPPDFile(PanelContext *context, ppd_file_s *hostPPD, const char *ppdPath, const char *printerName,

@@ -5,7 +5,8 @@
 # Every C++ file stands as clang-format would leave it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-mapfile -t files < <(git ls-files -co --exclude-standard '*.cpp' '*.h')
+. scripts/sources.sh
+mapfile -t files < <(sources)
 [ ${#files[@]} -gt 0 ] || { echo "no files to check" >&2; exit 1; }
 clang-format --dry-run -Werror "${files[@]}"
 echo "formatting: ${#files[@]} files checked"

@@ -5,12 +5,13 @@
 # clang-tidy over all production files, with the compile commands of the build tree "build".
 set -euo pipefail
 cd "$(dirname "$0")/.."
-mapfile -t files < <(git ls-files -co --exclude-standard '*.cpp' | grep -v '^tests/')
+. scripts/sources.sh
+mapfile -t files < <(sources -name '*.cpp' -not -path './tests/*')
 [ ${#files[@]} -gt 0 ] || { echo "no files to check" >&2; exit 1; }
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
-if ! printf '%s\0' "${files[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build --quiet >"$log" 2>/dev/null; then
-    cat "$log" >&2
+if ! printf '%s\0' "${files[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy -p build --quiet >"$log" 2>&1; then
+    grep -vE '^[0-9]+ warnings? (generated|treated as errors?)' "$log" >&2
     echo "clang-tidy: see above" >&2
     exit 1
 fi
