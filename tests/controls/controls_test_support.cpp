@@ -11,10 +11,13 @@
 #include "platform/tab_view.h"
 #include "plugin/context_lifecycle.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QFile>
 #include <QSignalBlocker>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -220,6 +223,32 @@ void choose(QComboBox *popup, int n)
 void slide(QSlider *slider, int position)
 {
     slider->setValue(position);
+}
+
+void turnWheel(QWidget *view, int notches)
+{
+    const QPointF place = view->rect().center();
+    QWheelEvent event(place, view->mapToGlobal(place), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view, &event);
+}
+
+void clickItem(QComboBox *popup, int n)
+{
+    popup->showPopup();
+    QAbstractItemView *list = popup->view();
+    if (!QTest::qWaitForWindowExposed(list->window())) {
+        qFatal("the list is not shown");
+    }
+    QTest::qWait(20);
+    const QRect row = list->visualRect(popup->model()->index(n - 1, 0));
+    const QPoint place = row.isValid() ? row.center() : QPoint(5, 5);
+    QTest::mouseMove(list->viewport(), place);
+    // The list takes no release within the double-click time of its opening.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::qWait(20);
+    popup->hidePopup();
 }
 
 bool isOn(const QWidget *view)

@@ -125,6 +125,11 @@ void choose(QComboBox *popup, int n);
 /// A person's movement of a slider.
 void slide(QSlider *slider, int position);
 
+/// Turns the wheel over a view by notches; away from the person is positive.
+void turnWheel(QWidget *view, int notches);
+/// Opens the pop-up's list, clicks the item with a 1-based number, and closes the list.
+void clickItem(QComboBox *popup, int n);
+
 /// Whether the view itself is enabled or shown, whatever holds it.
 bool isOn(const QWidget *view);
 bool isShown(const QWidget *view);

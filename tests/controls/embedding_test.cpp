@@ -7,9 +7,11 @@
 
 #include "controls/control_layer.h"
 #include "controls/control_tables.h"
+#include "controls/event_dispatch.h"
 #include "controls/sliders.h"
 #include "platform/tab_view.h"
 #include "platform/view_tags.h"
+#include "plugin/view_setup.h"
 #include "tests/controls/controls_test_support.h"
 
 #include <QPushButton>
@@ -250,6 +252,8 @@ TEST(EmbeddedSliders, StartAtTheirPrintersValuesKeptInRange)
     EXPECT_EQ(session.sliderText(0)->text(), QStringLiteral("200%"));
     EXPECT_EQ(session.settings().sliderValues[2], 0) << "49: a fifth of a step below D50";
     EXPECT_EQ(session.slider(11)->value(), 0) << "above the range of the ink intensity";
+    session.panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(session.host->marked("vornBrightness"), "50");
     Scrolls = tables;
 }
 
@@ -261,6 +265,17 @@ TEST(EmbeddedSliders, AllowALightBelowTheRange)
     EXPECT_EQ(session.settings().sliderValues[2], -10);
     EXPECT_EQ(session.slider(2)->value(), 0);
     EXPECT_EQ(session.sliderText(2)->text(), QStringLiteral("D50"));
+    const auto sent = [&session] {
+        session.host->changes.clear();
+        session.panel->saveValuesAndReturnError(nullptr);
+        const auto light = std::find_if(session.host->changes.begin(), session.host->changes.end(),
+                                        [](const Change &change) { return change.first == "vornRefLight"; });
+        return light != session.host->changes.end() ? light->second : "(not sent)";
+    };
+    EXPECT_EQ(sent(), "50") << "what the slider can show";
+    session.panel->restoreValuesAndReturnError(nullptr);
+    session.context()->controls.sliderControls[2] = nullptr;
+    EXPECT_EQ(sent(), "0") << "what the settings hold";
     Scrolls = tables;
 }
 
@@ -311,6 +326,65 @@ TEST(EmbeddedPopUps, AreNotFilteredByTheMediaModeAtFirst)
     EXPECT_EQ(hiddenOf(*session.popup(4)), (std::vector<bool>{true, true, false, true, true, false}));
     EXPECT_EQ(hiddenOf(*session.popup(3)), (std::vector<bool>{false, false, true, true, false}));
     EXPECT_EQ(session.settings().popupSelections[4], 3);
+}
+
+TEST(EmbeddedPopUps, OfAHiddenCartridgeAreStillSent)
+{
+    PanelSession single(ppdFixture("one-cartridge"));
+    single.open();
+    single.panel->saveValuesAndReturnError(nullptr);
+    EXPECT_NE(std::find(single.host->changes.begin(), single.host->changes.end(),
+                        Change("vornCartridgeType", "PhotoBlack")),
+              single.host->changes.end());
+
+    PanelSession none(ppdFixture("no-cartridge"));
+    none.open();
+    CapturedLog log;
+    none.panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(log.count("LOG Value not present!\n"), 1);
+}
+
+TEST(EmbeddingOfFewerTabs, LeavesOutWhatTheMissingPagesDo)
+{
+    PanelSession session(ppdFixture("media-modes"));
+    session.host->mark("vornColorGamma", "1");
+    session.host->mark("vornMediaType", "M3");
+    session.panel->restoreValuesAndReturnError(nullptr);
+    const auto raw = rawInterface();
+    auto *tabs = raw->findChild<TabView *>();
+    tabs->removeTab(5);
+    tabs->removeTab(4);
+    EXPECT_EQ(CocoaEmbedControls(session.context(), raw.get(), tabs), 1);
+    EXPECT_FALSE(session.checkBox(4707)->isChecked()) << "the ink usage page would have set it";
+    EXPECT_TRUE(isOn(session.slider(16)));
+    EXPECT_EQ(session.slider(7), nullptr);
+    EXPECT_TRUE(session.context()->controls.cyanPane.isNull());
+    session.panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_TRUE(session.checkBox(4707)->isChecked());
+    AlertRecorder alerts;
+    SetComboControlValue(session.popup(1), 3);
+    EXPECT_EQ(processEvent(session.context(), 1, 4501), 0);
+    EXPECT_FALSE(isOn(session.slider(0))) << "an event applies the media mode";
+    EXPECT_EQ(tabIdentifiers(session), (std::vector<std::string>{"On", "On", "Off", "Off"}));
+}
+
+TEST(EmbeddingOfFewerTabs, HasNoIntentsWithoutTheColorPage)
+{
+    PanelSession session(ppdFixture("media-modes"));
+    const auto raw = rawInterface();
+    auto *tabs = raw->findChild<TabView *>();
+    while (tabs->count() > 1) {
+        tabs->removeTab(1);
+    }
+    CocoaEmbedControls(session.context(), raw.get(), tabs);
+    CapturedLog log;
+    session.panel->restoreValuesAndReturnError(nullptr);
+    for (const char *keyword : {"*vornIntent", "*vornColorModel", "*vornColorspace", "*vornCMYKspace"}) {
+        EXPECT_TRUE(log.contains("LOG !!! Control not found for ppditem: " + std::string(keyword) + "\n"));
+    }
+    session.panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(session.host->marked("vornColorModel"), "RGB") << "the stored value is sent";
+    EXPECT_EQ(session.host->changes.size(), 1U + 8U + 20U);
 }
 
 TEST(EmbeddedPopUps, TakeTheFirstMediaTypeWhenNoneIsSelected)

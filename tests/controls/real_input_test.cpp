@@ -1,20 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Mouse, keyboard, wheel and type-ahead on the panel in a window: what they raise, and what they cannot reach.
+// Mouse, keyboard, wheel, typing and assistive technology on the panel in a window: what they raise, and what they
+// cannot reach.
 
-#include "controls/control_layer.h"
-#include "controls/menu_items.h"
-#include "controls/popup_filling.h"
 #include "platform/view_tags.h"
 #include "tests/controls/controls_test_support.h"
 
-#include <QAbstractItemView>
 #include <QAccessible>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -22,149 +18,6 @@
 
 namespace tessarin::test {
 namespace {
-
-/// Turns the wheel over a view by notches; away from the person is positive.
-void turnWheel(QWidget *view, int notches)
-{
-    const QPointF place = view->rect().center();
-    QWheelEvent event(place, view->mapToGlobal(place), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(view, &event);
-}
-
-/// Opens the pop-up's list, clicks the item with a 1-based number, and closes the list.
-void clickItem(QComboBox *popup, int n)
-{
-    popup->showPopup();
-    QAbstractItemView *list = popup->view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(list->window()));
-    QTest::qWait(20);
-    const QRect row = list->visualRect(popup->model()->index(n - 1, 0));
-    const QPoint place = row.isValid() ? row.center() : QPoint(5, 5);
-    QTest::mouseMove(list->viewport(), place);
-    // The list takes no release within the double-click time of its opening.
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    QTest::qWait(20);
-    popup->hidePopup();
-}
-
-/// A pop-up of items 1 to 7: 1 enabled, 2 disabled, 3 hidden, 4 a separator, 5 enabled, 6 hidden, 7 disabled.
-class UnreachableItems : public testing::Test {
-protected:
-    UnreachableItems()
-    {
-        popup.resize(200, 30);
-        FillPopup(&popup,
-                  Choices{{"A", "Alpha"},
-                          {"B", "Beta"},
-                          {"C", "Gamma"},
-                          kSeparatorPair,
-                          {"E", "Epsilon"},
-                          {"F", "Zeta"},
-                          {"G", "Eta"}},
-                  std::vector<int>{1, 0, 1, 1, 1, 1, 0}, 1);
-        ChangeMenuItemAttributes(&popup, 3, kMenuItemHidden, 0);
-        ChangeMenuItemAttributes(&popup, 6, kMenuItemHidden, 0);
-        popup.show();
-        popup.setFocus();
-        if (!QTest::qWaitForWindowExposed(&popup)) {
-            ADD_FAILURE() << "not shown";
-        }
-    }
-
-    int current() const { return popup.currentIndex() + 1; }
-
-    PopUpButton popup;
-    QSignalSpy activated{&popup, &QComboBox::activated};
-};
-
-TEST_F(UnreachableItems, ArePassedOverByTheKeys)
-{
-    for (const auto key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End}) {
-        SetComboControlValue(&popup, 1);
-        QTest::keyClick(&popup, key);
-        EXPECT_EQ(current(), 5) << key;
-        QTest::keyClick(&popup, key);
-        EXPECT_EQ(current(), 5) << "nothing behind it may be chosen";
-    }
-    for (const auto key : {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Home}) {
-        SetComboControlValue(&popup, 5);
-        QTest::keyClick(&popup, key);
-        EXPECT_EQ(current(), 1) << key;
-        QTest::keyClick(&popup, key);
-        EXPECT_EQ(current(), 1);
-    }
-    EXPECT_EQ(activated.count(), 6) << "one for each choice that was made";
-}
-
-TEST_F(UnreachableItems, ArePassedOverByTheWheel)
-{
-    turnWheel(&popup, -1);
-    EXPECT_EQ(current(), 5);
-    turnWheel(&popup, -1);
-    EXPECT_EQ(current(), 5);
-    turnWheel(&popup, 1);
-    EXPECT_EQ(current(), 1);
-    turnWheel(&popup, 1);
-    EXPECT_EQ(current(), 1);
-    EXPECT_EQ(activated.count(), 2);
-}
-
-TEST_F(UnreachableItems, AreNotFoundByTyping)
-{
-    for (const char *letters : {"b", "g", "z", "et", "-"}) {
-        SetComboControlValue(&popup, 1);
-        QTest::qWait(QApplication::keyboardInputInterval() + 20); // what was typed before is forgotten
-        QTest::keyClicks(&popup, QString::fromLatin1(letters));
-        EXPECT_TRUE(current() == 1 || current() == 5) << letters << " chose " << current();
-        EXPECT_NE(popup.currentText().toLower().left(1), QLatin1String(letters).left(1))
-            << letters << (*letters == 'e' ? " finds what may be chosen" : "");
-        if (*letters == 'e') {
-            break;
-        }
-    }
-}
-
-TEST_F(UnreachableItems, LeaveOthersToBeFoundByTyping)
-{
-    QTest::keyClick(&popup, Qt::Key_E);
-    EXPECT_EQ(current(), 5);
-    EXPECT_EQ(activated.count(), 1);
-}
-
-TEST_F(UnreachableItems, AreNotChosenByTheMouse)
-{
-    clickItem(&popup, 2);
-    EXPECT_EQ(current(), 1);
-    clickItem(&popup, 4);
-    EXPECT_EQ(current(), 1);
-    clickItem(&popup, 7);
-    EXPECT_EQ(current(), 1);
-    EXPECT_EQ(activated.count(), 0);
-    clickItem(&popup, 5);
-    EXPECT_EQ(current(), 5);
-    EXPECT_EQ(activated.count(), 1);
-}
-
-TEST_F(UnreachableItems, TakeNoRoomInTheListWhenTheyAreHidden)
-{
-    popup.showPopup();
-    for (int n = 1; n <= 7; ++n) {
-        const QRect row = popup.view()->visualRect(popup.model()->index(n - 1, 0));
-        EXPECT_EQ(row.isEmpty(), n == 3 || n == 6) << n;
-    }
-    popup.hidePopup();
-}
-
-TEST_F(UnreachableItems, ArePassedOverInTheOpenList)
-{
-    popup.showPopup();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(popup.view()->window()));
-    QTest::keyClick(popup.view(), Qt::Key_Down);
-    QTest::keyClick(popup.view(), Qt::Key_Return);
-    EXPECT_EQ(current(), 5);
-}
 
 /// The panel in a window, with the media modes to choose from.
 class RealInput : public testing::Test {
@@ -201,10 +54,9 @@ TEST_F(RealInput, OfTheKeyboardOnAPopUpIsOneEventForEachStep)
 
 TEST_F(RealInput, OfTypingOnAPopUpIsAnEvent)
 {
-    QTest::keyClicks(panel.popup(1), QStringLiteral("media w"));
-    EXPECT_EQ(panel.settings().popupSelections[1], 11);
-    EXPECT_FALSE(panel.host->changes.empty());
-    EXPECT_EQ(panel.host->changes.back(), Change("vornMediaType", "NoDigit"));
+    QTest::keyClick(panel.popup(2), Qt::Key_1);
+    EXPECT_EQ(panel.settings().popupSelections[2], 2);
+    EXPECT_EQ(panel.host->changes, (Changes{{"vornResolution", "1200dpi"}}));
 }
 
 TEST_F(RealInput, OfTheWheelOnAPopUpIsAnEvent)
@@ -317,20 +169,35 @@ TEST_F(RealInput, OnACheckBoxIsOneEvent)
     EXPECT_FALSE(isOn(panel.slider(19)));
 }
 
-TEST_F(RealInput, OfAssistiveTechnologyIsAnEventToo)
+TEST_F(RealInput, OfAssistiveTechnologyOnACheckBoxIsAnEvent)
 {
     panel.showPage(2);
     QAccessibleInterface *box = QAccessible::queryAccessibleInterface(panel.checkBox(4707));
     ASSERT_NE(box, nullptr);
-    ASSERT_NE(box->actionInterface(), nullptr);
-    box->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QAccessibleActionInterface *actions = box->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    actions->doAction(actions->actionNames().value(0));
     EXPECT_TRUE(panel.checkBox(4707)->isChecked());
     EXPECT_EQ(log.count("LOG Handle event #4707\n"), 1);
+    EXPECT_TRUE(isOn(panel.slider(16)));
+}
 
+TEST_F(RealInput, OfAssistiveTechnologyOnAButtonIsAnEvent)
+{
+    panel.showPage(3);
+    QAccessibleInterface *button = QAccessible::queryAccessibleInterface(tagged(4003));
+    ASSERT_NE(button, nullptr);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return log.contains("LOG Handle event #4003\n"); }, 2000));
+}
+
+TEST_F(RealInput, OfAssistiveTechnologyOnASliderShowsItsValue)
+{
     QAccessibleInterface *slider = QAccessible::queryAccessibleInterface(panel.slider(0));
     ASSERT_NE(slider, nullptr);
     slider->valueInterface()->setCurrentValue(3);
     EXPECT_EQ(panel.sliderText(0)->text(), QStringLiteral("130%"));
+    EXPECT_EQ(log.countStarting("LOG scrollCallback"), 1);
 }
 
 TEST_F(RealInput, OnTheGroundOfThePanelIsLogged)

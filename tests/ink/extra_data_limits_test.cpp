@@ -24,10 +24,11 @@ constexpr std::size_t kLargestBlock = 16'777'216;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool kInstrumented = true;
+constexpr double kPatience = 60.0; // an instrumented realloc() copies
 #else
 constexpr bool kInstrumented = false;
+constexpr double kPatience = 1.0;
 #endif
-constexpr double kPatience = kInstrumented ? 60.0 : 1.0; // an instrumented realloc() copies
 
 /// A stream of many chunks of zeros, read.
 std::optional<std::string> readZeros(std::size_t count, const std::string &behind = {})
