@@ -9,6 +9,7 @@
 
 #include "platform/alerts.h"
 #include "platform/popup_button.h"
+#include "platform/view_tags.h"
 #include "plugin/panel_context.h"
 #include "ppd/option_table.h"
 #include "tests/support/captured_log.h"
@@ -116,6 +117,15 @@ private:
     std::array<std::string, 2> paths_;
     std::array<const char *, 2> before_;
 };
+
+/// A new view with a tag.
+template <typename View>
+View *addTagged(QWidget *parent, qintptr tag)
+{
+    auto *view = new View(parent);
+    setTagOf(view, tag);
+    return view;
+}
 
 /// The interface as its file gives it, before any panel has embedded it.
 std::unique_ptr<QWidget> rawInterface();
