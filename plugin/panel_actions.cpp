@@ -104,9 +104,14 @@ void PasswordPDE::connectActions(QWidget *root)
     }
     const auto buttons = root->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
-        if (tagOf(button) != 0) { // the toolkit's own buttons, of tab bars and lists, have none
-            QObject::connect(button, &QAbstractButton::clicked, actions.get(),
-                             [this, button] { buttonCallback(button); });
+        if (tagOf(button) == 0) { // the toolkit's own buttons, of tab bars and lists, have none
+            continue;
+        }
+        const auto callback = [this, button] { buttonCallback(button); };
+        if (button->isCheckable()) { // assistive technology toggles without a click
+            QObject::connect(button, &QAbstractButton::toggled, actions.get(), callback);
+        } else {
+            QObject::connect(button, &QAbstractButton::clicked, actions.get(), callback);
         }
     }
     const auto sliders = root->findChildren<QAbstractSlider *>();
