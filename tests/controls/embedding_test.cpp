@@ -238,6 +238,29 @@ TEST(EmbeddedPopUps, OfAHiddenCartridgeAreStillSent)
     EXPECT_EQ(log.count("LOG Value not present!\n"), 1);
 }
 
+TEST(EmbeddingOfMoreTabs, EndsWithTheEighth)
+{
+    const PanelSession session(ppdFixture("minimal"));
+    TabView tabs;
+    for (int i = 0; i < 9; ++i) {
+        tabs.addTab(new QWidget, QStringLiteral("Page"));
+    }
+    const StableAddresses stable;
+    CapturedLog log;
+    EXPECT_EQ(CocoaEmbedControls(session.context(), nullptr, &tabs), 1);
+    EXPECT_TRUE(log.contains("LOG CoCoaEmbedControls - 9 TABS - View=0xP\n"));
+    const std::array<int, 8> masks{1, 2, 4, 8, 16, 32, 0, 0};
+    for (std::size_t position = 0; position < masks.size(); ++position) {
+        EXPECT_TRUE(log.contains("LOG Init Tab #" + std::to_string(position) + " (0xP) with idx #" +
+                                 std::to_string(masks[position]) + "\n"))
+            << position;
+    }
+    EXPECT_EQ(log.countStarting("LOG Init Tab #"), 8);
+    EXPECT_EQ(log.count("LOG \n!!!MyEmbedControls!!! - idx=0 - window=0\n\n"), 2);
+    EXPECT_EQ(session.context()->embedObject, tabs.widget(7));
+    EXPECT_TRUE(tabs.identifier(8).isNull());
+}
+
 TEST(EmbeddingOfFewerTabs, LeavesOutWhatTheMissingPagesDo)
 {
     PanelSession session(ppdFixture("media-modes"));

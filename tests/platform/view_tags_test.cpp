@@ -22,6 +22,7 @@
 
 #include <limits>
 #include <memory>
+#include <vector>
 
 namespace tessarin {
 namespace {
@@ -222,10 +223,14 @@ TEST(ViewHandles, OfLivingViewsSurviveManyDeadOnes)
 {
     QLabel living;
     const qintptr handle = handleOf(&living);
-    for (int i = 0; i < 1000; ++i) {
-        const QWidget parent;
-        auto passing = std::make_unique<QLabel>();
-        handleOf(passing.get());
+    for (int round = 0; round < 3; ++round) {
+        std::vector<std::unique_ptr<QLabel>> passing;
+        for (int i = 0; i < 200; ++i) {
+            passing.push_back(std::make_unique<QLabel>());
+            const qintptr own = handleOf(passing.back().get());
+            EXPECT_EQ(viewForHandle(own), passing.back().get());
+        }
+        EXPECT_EQ(viewForHandle(handleOf(passing.front().get())), passing.front().get());
     }
     EXPECT_EQ(viewForHandle(handle), &living);
 }
