@@ -4,17 +4,17 @@
 #include "host/application.h"
 
 #include "host/command_line.h"
-#include "host/delivery.h"
+#include "printing/delivery.h"
 #include "host/dialog.h"
-#include "host/documents.h"
-#include "host/host_callback.h"
-#include "host/host_printer.h"
+#include "printing/documents.h"
+#include "settings/host_callback.h"
+#include "printing/host_printer.h"
 #include "host/installation.h"
 #include "host/log_output.h"
 #include "host/offscreen.h"
 #include "host/plugin_loader.h"
-#include "host/text.h"
-#include "host/ticket_output.h"
+#include "printing/text.h"
+#include "printing/ticket_output.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -3,7 +3,7 @@
 
 #include "host/command_line.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>

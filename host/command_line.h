@@ -6,7 +6,7 @@
 #ifndef TESSARIN_HOST_COMMAND_LINE_H
 #define TESSARIN_HOST_COMMAND_LINE_H
 
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include <QString>
 #include <QStringList>

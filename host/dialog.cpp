@@ -4,7 +4,7 @@
 #include "host/dialog.h"
 
 #include "host/printer_header.h"
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QDialogButtonBox>
 #include <QFrame>

@@ -6,8 +6,8 @@
 #ifndef TESSARIN_HOST_DIALOG_H
 #define TESSARIN_HOST_DIALOG_H
 
-#include "host/delivery.h"
-#include "host/host_callback.h"
+#include "printing/delivery.h"
+#include "settings/host_callback.h"
 #include "host/panel_area.h"
 #include "host/panel_session.h"
 #include "host/summary_page.h"

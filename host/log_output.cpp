@@ -3,7 +3,7 @@
 
 #include "host/log_output.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QFile>
 

@@ -6,7 +6,7 @@
 #ifndef TESSARIN_HOST_LOG_OUTPUT_H
 #define TESSARIN_HOST_LOG_OUTPUT_H
 
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include "pde/print_dialog_extension.h"
 

@@ -3,7 +3,7 @@
 
 #include "host/offscreen.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QApplication>
 #include <QDir>

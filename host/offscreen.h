@@ -7,7 +7,7 @@
 #define TESSARIN_HOST_OFFSCREEN_H
 
 #include "host/dialog.h"
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include <QString>
 #include <QStringList>

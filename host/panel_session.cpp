@@ -3,7 +3,7 @@
 
 #include "host/panel_session.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 namespace tessarin::host {
 

@@ -3,7 +3,7 @@
 
 #include "host/plugin_loader.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QDir>
 #include <QFile>

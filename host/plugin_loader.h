@@ -6,7 +6,7 @@
 #ifndef TESSARIN_HOST_PLUGIN_LOADER_H
 #define TESSARIN_HOST_PLUGIN_LOADER_H
 
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include "pde/print_dialog_extension.h"
 

@@ -3,7 +3,7 @@
 
 #include "host/summary_page.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QHeaderView>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/delivery.h"
+#include "printing/delivery.h"
 
-#include "host/ticket_output.h"
+#include "printing/ticket_output.h"
 
 #include "tests/host/host_test_support.h"
 

@@ -6,7 +6,7 @@
 #ifndef TESSARIN_TESTS_HOST_HOST_TEST_SUPPORT_H
 #define TESSARIN_TESTS_HOST_HOST_TEST_SUPPORT_H
 
-#include "host/host_printer.h"
+#include "printing/host_printer.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

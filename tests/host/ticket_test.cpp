@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/ticket.h"
+#include "printing/ticket.h"
 
 #include "tests/host/host_test_support.h"
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/job_submission.h"
+#include "printing/job_submission.h"
 
-#include "host/cups_connection.h"
-#include "host/text.h"
+#include "printing/cups_connection.h"
+#include "printing/text.h"
 
 #include <QFile>
 

@@ -3,10 +3,10 @@
 
 // The documents to print.
 
-#ifndef TESSARIN_HOST_DOCUMENTS_H
-#define TESSARIN_HOST_DOCUMENTS_H
+#ifndef TESSARIN_PRINTING_DOCUMENTS_H
+#define TESSARIN_PRINTING_DOCUMENTS_H
 
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include <QString>
 #include <QStringList>

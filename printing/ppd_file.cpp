@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/ppd_file.h"
+#include "printing/ppd_file.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QFile>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdlib>
+#include <cstring>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -34,9 +37,49 @@ QString unusable(int descriptor)
     return status.st_size == 0 ? TessarinPrint::tr("the file is empty") : QString();
 }
 
+/// Adds a choice to an option of a PPD in which nothing is marked yet: marks point into the list that grows here.
+/// Left out when there is no memory for it, which the marking then shows.
+void addChoice(ppd_option_t &option, const QByteArray &name)
+{
+    const auto count = static_cast<std::size_t>(option.num_choices);
+    // The list is libcups', which makes and frees it with the C library's functions.
+    void *grown = std::realloc(option.choices, (count + 1) * sizeof(ppd_choice_t));
+    if (!grown) {
+        return;
+    }
+    option.choices = static_cast<ppd_choice_t *>(grown);
+    option.num_choices++;
+    ppd_choice_t &choice = option.choices[count];
+    choice = {};
+    qstrncpy(choice.choice, name.constData(), sizeof choice.choice);
+    qstrncpy(choice.text, name.constData(), sizeof choice.text);
+    choice.option = &option;
+}
+
+void listNumbers(ppd_file_t *ppd, const CupsOptions &numbers)
+{
+    for (int i = 0; i < numbers.count(); ++i) {
+        const cups_option_t &number = numbers.data()[i];
+        ppd_option_t *option = ppdFindOption(ppd, number.name);
+        const bool fits = std::strlen(number.value) < sizeof(ppd_choice_t::choice);
+        if (option && fits && isWholeNumber(QString::fromUtf8(number.value)) &&
+            !ppdFindChoice(option, number.value)) {
+            addChoice(*option, number.value);
+        }
+    }
+}
+
 } // namespace
 
-Outcome<PpdHandle> openPpd(const QString &path)
+bool isWholeNumber(const QString &text)
+{
+    const qsizetype sign = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0;
+    return text.size() > sign && std::all_of(text.begin() + sign, text.end(), [](QChar character) {
+               return character >= u'0' && character <= u'9';
+           });
+}
+
+Outcome<PpdHandle> openPpd(const QString &path, const CupsOptions &numbers)
 {
     const auto failed = [&path](const QString &why) {
         return Outcome<PpdHandle>::failed(TessarinPrint::tr("PPD file %1: %2").arg(path, why));
@@ -56,6 +99,7 @@ Outcome<PpdHandle> openPpd(const QString &path)
         const QString why = QString::fromUtf8(ppdErrorString(ppdLastError(&line)));
         return failed(TessarinPrint::tr("line %1: %2").arg(QString::number(line), why));
     }
+    listNumbers(ppd.get(), numbers);
     ppdMarkDefaults(ppd.get());
     return ppd;
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/host_printer.h"
+#include "printing/host_printer.h"
 
 #include <QFileInfo>
 
@@ -16,9 +16,12 @@ HostPrinter::HostPrinter(Parts parts, PpdHandle ppd)
       queue_(std::move(parts.queue)), ppd_(std::move(ppd))
 {}
 
-PrinterOutcome HostPrinter::open(Parts parts)
+PrinterOutcome HostPrinter::open(Parts parts, const CupsOptions &numbers)
 {
-    Outcome<PpdHandle> ppd = openPpd(parts.path);
+    CupsOptions listed;
+    listed.addAll(parts.queue.savedOptions);
+    listed.addAll(numbers);
+    Outcome<PpdHandle> ppd = openPpd(parts.path, listed);
     if (!ppd.ok()) {
         return PrinterOutcome::failed(ppd.reason());
     }
@@ -48,6 +51,13 @@ PrinterOutcome HostPrinter::fromQueue(const QueueName &name)
     }
     const QString path = queue.value().ppdPath;
     return open({.kind = PrinterKind::Queue, .path = path, .identifier = name.queue, .queue = queue.take()});
+}
+
+PrinterOutcome HostPrinter::again(const CupsOptions &numbers) const
+{
+    QueueDescription queue{.name = queue_.name, .ppdPath = queue_.ppdPath, .directory = queue_.directory};
+    queue.savedOptions.addAll(queue_.savedOptions);
+    return open({.kind = kind_, .path = path_, .identifier = identifier_, .queue = std::move(queue)}, numbers);
 }
 
 std::optional<QString> HostPrinter::descriptionPath(const QString &descriptionType) const

@@ -3,11 +3,11 @@
 
 // A print queue as the dialog needs it before printing: its PPD and its saved options.
 
-#ifndef TESSARIN_HOST_CUPS_QUEUE_H
-#define TESSARIN_HOST_CUPS_QUEUE_H
+#ifndef TESSARIN_PRINTING_CUPS_QUEUE_H
+#define TESSARIN_PRINTING_CUPS_QUEUE_H
 
-#include "host/cups_options.h"
-#include "host/outcome.h"
+#include "printing/cups_options.h"
+#include "printing/outcome.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -30,7 +30,7 @@ struct QueueDescription {
     QueueName name{};
     QString ppdPath{};                          ///< a copy in `directory`, or a link to the server's own file
     CupsOptions savedOptions{};                 ///< the queue's and the user's defaults
-    std::unique_ptr<QTemporaryDir> directory{}; ///< holds the PPD; removed with this record
+    std::shared_ptr<QTemporaryDir> directory{}; ///< holds the PPD; removed with this record
 };
 
 /// Asks the print server for a queue. The reason of a failure names the server or the queue.

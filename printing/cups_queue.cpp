@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/cups_queue.h"
+#include "printing/cups_queue.h"
 
-#include "host/cups_connection.h"
-#include "host/text.h"
+#include "printing/cups_connection.h"
+#include "printing/text.h"
 
 #include "cups/ppd_library.h"
 
@@ -49,7 +49,7 @@ Outcome<QueueDescription> describeQueue(const QueueName &name)
     queue.name = name;
     queue.savedOptions = jobOptionsOf(destination.value()->num_options, destination.value()->options);
 
-    queue.directory = std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/tessarin-print-XXXXXX"));
+    queue.directory = std::make_shared<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/tessarin-print-XXXXXX"));
     if (!queue.directory->isValid()) {
         return Result::failed(TessarinPrint::tr("folder for the PPD of queue %1: %2")
                                   .arg(name.text(), queue.directory->errorString()));

@@ -5,8 +5,8 @@
 // the context's name, so that the tools that collect the texts find the same one whether or not they see this
 // header.
 
-#ifndef TESSARIN_HOST_TEXT_H
-#define TESSARIN_HOST_TEXT_H
+#ifndef TESSARIN_PRINTING_TEXT_H
+#define TESSARIN_PRINTING_TEXT_H
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/cups_options.h"
+#include "printing/cups_options.h"
 
 #include <cstring>
 #include <string_view>

@@ -4,12 +4,12 @@
 // The printer that the dialog prints on: a print queue, a PPD file that stands for a printer, or the sample
 // printer.
 
-#ifndef TESSARIN_HOST_HOST_PRINTER_H
-#define TESSARIN_HOST_HOST_PRINTER_H
+#ifndef TESSARIN_PRINTING_HOST_PRINTER_H
+#define TESSARIN_PRINTING_HOST_PRINTER_H
 
-#include "host/cups_queue.h"
-#include "host/outcome.h"
-#include "host/ppd_file.h"
+#include "printing/cups_queue.h"
+#include "printing/outcome.h"
+#include "printing/ppd_file.h"
 
 #include "pde/print_dialog_extension.h"
 
@@ -37,6 +37,10 @@ public:
     /// A queue of the print server; its identifier is the queue's name.
     static Outcome<std::shared_ptr<HostPrinter>> fromQueue(const QueueName &name);
 
+    /// The same printer with its PPD open anew, nothing marked but its defaults; whole numbers among `numbers` can
+    /// be marked in it even where the PPD does not list them.
+    Outcome<std::shared_ptr<HostPrinter>> again(const CupsOptions &numbers) const;
+
     std::optional<QString> descriptionPath(const QString &descriptionType) const override;
     std::optional<QString> identifier() const override;
 
@@ -45,6 +49,8 @@ public:
     QString displayName() const;
     /// The queue's name; empty for the other kinds.
     const QueueName &queueName() const { return queue_.name; }
+    /// The queue's and the user's defaults; empty for the other kinds.
+    const CupsOptions &savedOptions() const { return queue_.savedOptions; }
     /// The open PPD. Owned by this printer, never null.
     ppd_file_t *ppd() const { return ppd_.get(); }
 
@@ -57,7 +63,7 @@ private:
     };
 
     HostPrinter(Parts parts, PpdHandle ppd);
-    static Outcome<std::shared_ptr<HostPrinter>> open(Parts parts);
+    static Outcome<std::shared_ptr<HostPrinter>> open(Parts parts, const CupsOptions &numbers = CupsOptions());
 
     PrinterKind kind_;
     QString path_;

@@ -4,11 +4,11 @@
 // What Print does with the finished ticket. The dialog starts a delivery and hears of its end; it knows nothing of
 // files or print servers.
 
-#ifndef TESSARIN_HOST_DELIVERY_H
-#define TESSARIN_HOST_DELIVERY_H
+#ifndef TESSARIN_PRINTING_DELIVERY_H
+#define TESSARIN_PRINTING_DELIVERY_H
 
-#include "host/job_submission.h"
-#include "host/ticket.h"
+#include "printing/job_submission.h"
+#include "printing/ticket.h"
 
 #include <QObject>
 #include <QString>

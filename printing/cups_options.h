@@ -3,8 +3,8 @@
 
 // The option lists of libcups with an owner.
 
-#ifndef TESSARIN_HOST_CUPS_OPTIONS_H
-#define TESSARIN_HOST_CUPS_OPTIONS_H
+#ifndef TESSARIN_PRINTING_CUPS_OPTIONS_H
+#define TESSARIN_PRINTING_CUPS_OPTIONS_H
 
 #include <QString>
 

@@ -3,11 +3,11 @@
 
 // Opening a printer's PPD.
 
-#ifndef TESSARIN_HOST_PPD_FILE_H
-#define TESSARIN_HOST_PPD_FILE_H
+#ifndef TESSARIN_PRINTING_PPD_FILE_H
+#define TESSARIN_PRINTING_PPD_FILE_H
 
-#include "host/cups_options.h"
-#include "host/outcome.h"
+#include "printing/cups_options.h"
+#include "printing/outcome.h"
 
 #include "cups/ppd_library.h"
 
@@ -24,7 +24,14 @@ using PpdHandle = std::unique_ptr<ppd_file_t, PpdCloser>;
 
 /// Opens and parses a PPD file and marks its default choices. Fails at once, never waiting, for what is not a
 /// readable regular file with something in it; the reason names the file and, for a fault in the text, the line.
-Outcome<PpdHandle> openPpd(const QString &path);
+///
+/// `numbers`: settings that will be marked. An option set by a slider lists only some of the values that the driver
+/// takes; where one of these settings is a whole number that its option does not list, the number becomes a choice
+/// of the open PPD, so that it can be marked and a panel starts from it.
+Outcome<PpdHandle> openPpd(const QString &path, const CupsOptions &numbers = CupsOptions());
+
+/// A whole number as a driver reads it: an optional sign and ASCII digits, nothing else.
+bool isWholeNumber(const QString &text);
 
 /// The printer's name as the PPD gives it; empty when it gives none.
 QString ppdNickname(const ppd_file_t &ppd);

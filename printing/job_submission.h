@@ -3,13 +3,13 @@
 
 // Sending a job to the print server.
 
-#ifndef TESSARIN_HOST_JOB_SUBMISSION_H
-#define TESSARIN_HOST_JOB_SUBMISSION_H
+#ifndef TESSARIN_PRINTING_JOB_SUBMISSION_H
+#define TESSARIN_PRINTING_JOB_SUBMISSION_H
 
-#include "host/cups_queue.h"
-#include "host/documents.h"
-#include "host/outcome.h"
-#include "host/ticket.h"
+#include "printing/cups_queue.h"
+#include "printing/documents.h"
+#include "printing/outcome.h"
+#include "printing/ticket.h"
 
 #include <QString>
 

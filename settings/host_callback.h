@@ -3,11 +3,10 @@
 
 // What the dialog offers to a panel: the printer, its PPD, and a place to put choices.
 
-#ifndef TESSARIN_HOST_HOST_CALLBACK_H
-#define TESSARIN_HOST_HOST_CALLBACK_H
+#ifndef TESSARIN_SETTINGS_HOST_CALLBACK_H
+#define TESSARIN_SETTINGS_HOST_CALLBACK_H
 
-#include "host/host_printer.h"
-#include "host/ticket.h"
+#include "settings/job_settings.h"
 
 #include "pde/print_dialog_extension.h"
 
@@ -21,8 +20,8 @@ namespace tessarin::host {
 /// Is told of each accepted change, after it was made.
 using ChangeObserver = std::function<void(const QString &key, const QString &choice)>;
 
-/// The callback of one dialog. Shares the printer, so that its PPD stays open for as long as a panel keeps the
-/// callback, and owns the ticket that the panel's choices go into.
+/// The callback of one dialog. Shares the settings and with them the printer, so that its PPD stays open for as
+/// long as a panel keeps the callback.
 ///
 /// Which changes are accepted:
 /// - "ColorModel" always, whatever the PPD says of it: the panel sets it as a hint of what the pages will look
@@ -35,6 +34,8 @@ using ChangeObserver = std::function<void(const QString &key, const QString &cho
 /// menu separator, any other choice.
 class DialogCallback final : public pde::HostCallback {
 public:
+    explicit DialogCallback(std::shared_ptr<JobSettings> settings);
+    /// With settings of its own.
     explicit DialogCallback(std::shared_ptr<HostPrinter> printer);
     ~DialogCallback() override;
 
@@ -44,7 +45,8 @@ public:
     bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) override;
 
     /// What the panel has set so far. Empty at first: what the PPD's marks say is the printer's own business.
-    const JobTicket &ticket() const { return ticket_; }
+    const JobTicket &ticket() const { return settings_->ticket(); }
+    JobSettings &settings() const { return *settings_; }
     /// The observer of changes; an empty one ends the observing.
     void setChangeObserver(ChangeObserver observer);
 
@@ -53,9 +55,8 @@ private:
 
     bool accept(const QString &key, const QString &choice);
 
-    std::shared_ptr<HostPrinter> printer_;
+    std::shared_ptr<JobSettings> settings_;
     std::unique_ptr<Session> session_;
-    JobTicket ticket_{};
     ChangeObserver observer_{};
 };
 

@@ -8,11 +8,11 @@
 // as \=. Reading accepts a last line without newline, passes over empty lines, and takes one carriage return before
 // a newline for part of the line end.
 
-#ifndef TESSARIN_HOST_TICKET_H
-#define TESSARIN_HOST_TICKET_H
+#ifndef TESSARIN_PRINTING_TICKET_H
+#define TESSARIN_PRINTING_TICKET_H
 
-#include "host/cups_options.h"
-#include "host/outcome.h"
+#include "printing/cups_options.h"
+#include "printing/outcome.h"
 
 #include <QByteArray>
 #include <QString>
@@ -37,6 +37,8 @@ public:
     /// The value of an option; nothing when it is not in the ticket.
     std::optional<QString> value(const QString &key) const;
     const std::vector<TicketEntry> &entries() const { return entries_; }
+    /// Takes out the options without a value: they say nothing to a printer.
+    void removeEmpty();
 
     /// Keeps a hint: something the panel tells the dialog for its own use, which is no option of the job and so
     /// neither written nor sent.

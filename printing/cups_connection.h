@@ -3,10 +3,10 @@
 
 // A connection to the print server that never waits without end.
 
-#ifndef TESSARIN_HOST_CUPS_CONNECTION_H
-#define TESSARIN_HOST_CUPS_CONNECTION_H
+#ifndef TESSARIN_PRINTING_CUPS_CONNECTION_H
+#define TESSARIN_PRINTING_CUPS_CONNECTION_H
 
-#include "host/outcome.h"
+#include "printing/outcome.h"
 
 #include <memory>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/ticket.h"
+#include "printing/ticket.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QStringDecoder>
 
@@ -112,6 +112,11 @@ void JobTicket::set(const QString &key, const QString &value)
 std::optional<QString> JobTicket::value(const QString &key) const
 {
     return valueIn(entries_, key);
+}
+
+void JobTicket::removeEmpty()
+{
+    std::erase_if(entries_, [](const TicketEntry &entry) { return entry.value.isEmpty(); });
 }
 
 void JobTicket::setHint(const QString &key, const QString &value)

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "host/documents.h"
+#include "printing/documents.h"
 
-#include "host/text.h"
+#include "printing/text.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,10 +3,10 @@
 
 // Where a written ticket goes: a file or standard output.
 
-#ifndef TESSARIN_HOST_TICKET_OUTPUT_H
-#define TESSARIN_HOST_TICKET_OUTPUT_H
+#ifndef TESSARIN_PRINTING_TICKET_OUTPUT_H
+#define TESSARIN_PRINTING_TICKET_OUTPUT_H
 
-#include "host/ticket.h"
+#include "printing/ticket.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 
 // The result of a step that can fail for a reason the user has to be told.
 
-#ifndef TESSARIN_HOST_OUTCOME_H
-#define TESSARIN_HOST_OUTCOME_H
+#ifndef TESSARIN_PRINTING_OUTCOME_H
+#define TESSARIN_PRINTING_OUTCOME_H
 
 #include <QString>
 

@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "settings/job_settings.h"
+
+#include "settings/page_ranges.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarin::host {
+
+namespace {
+
+constexpr char kSeparatorText[] = "---separator---";
+constexpr char kInstalledGroup[] = "InstallableOptions";
+constexpr char kColorModel[] = "ColorModel";
+constexpr int kMostCopies = 9999;
+
+const JobAttribute *findAttribute(const QString &key)
+{
+    const QList<JobAttribute> &all = jobAttributes();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const JobAttribute &attribute) {
+        return key.compare(QLatin1String(attribute.name), Qt::CaseInsensitive) == 0;
+    });
+    return found == all.end() ? nullptr : &*found;
+}
+
+bool isOneOf(const QString &value, std::initializer_list<const char *> values)
+{
+    return std::any_of(values.begin(), values.end(), [&](const char *one) { return value == QLatin1String(one); });
+}
+
+/// An attribute's value as it is kept; nothing for one that is not possible.
+std::optional<QString> checkedAttribute(const JobAttribute &attribute, const QString &value)
+{
+    const QLatin1String name(attribute.name);
+    bool possible = false;
+    if (name == QLatin1String(kCopies)) {
+        bool isNumber = false;
+        const int copies = value.toInt(&isNumber);
+        return isNumber && copies >= 1 && copies <= kMostCopies ? std::optional(QString::number(copies))
+                                                                : std::nullopt;
+    }
+    if (name == QLatin1String(kPageRanges)) {
+        const Outcome<std::vector<PageRange>> ranges = parsePageRanges(value);
+        return ranges.ok() ? std::optional(normalPageRanges(ranges.value())) : std::nullopt;
+    }
+    if (name == QLatin1String(kCollate)) {
+        possible = isOneOf(value, {kCollated, kUncollated});
+    } else if (name == QLatin1String(kPageSet)) {
+        possible = isOneOf(value, {"all", "odd", "even"});
+    } else if (name == QLatin1String(kOrientation)) {
+        possible = isOneOf(value, {"", "3", "4", "5", "6"});
+    } else if (name == QLatin1String(kNumberUp)) {
+        possible = isOneOf(value, {"1", "2", "4", "6", "9", "16"});
+    }
+    return possible ? std::optional(value) : std::nullopt;
+}
+
+QString sidesOf(const QString &duplex)
+{
+    if (duplex == QLatin1String("DuplexNoTumble")) {
+        return QStringLiteral("two-sided-long-edge");
+    }
+    if (duplex == QLatin1String("DuplexTumble")) {
+        return QStringLiteral("two-sided-short-edge");
+    }
+    return QStringLiteral("one-sided");
+}
+
+} // namespace
+
+const QList<JobAttribute> &jobAttributes()
+{
+    static const QList<JobAttribute> attributes = {
+        {.name = kCopies, .defaultValue = "1"},     {.name = kCollate, .defaultValue = kCollated},
+        {.name = kPageRanges, .defaultValue = ""},  {.name = kPageSet, .defaultValue = "all"},
+        {.name = kOrientation, .defaultValue = ""}, {.name = kNumberUp, .defaultValue = "1"},
+    };
+    return attributes;
+}
+
+JobSettings::JobSettings(std::shared_ptr<HostPrinter> printer) : printer_(std::move(printer))
+{
+    const ppd_file_t *ppd = printer_->ppd();
+    for (int g = 0; g < ppd->num_groups; ++g) {
+        const ppd_group_t &group = ppd->groups[g];
+        const bool installed = qstricmp(group.name, kInstalledGroup) == 0;
+        for (int o = 0; o < group.num_options; ++o) {
+            const QString key = QString::fromUtf8(group.options[o].keyword);
+            defaults_.insert(key.toLower(), optionValue(key));
+            if (!installed && key != QLatin1String("PageRegion")) {
+                optionKeys_ << key;
+            }
+        }
+    }
+    for (const JobAttribute &attribute : jobAttributes()) {
+        const QString name = QLatin1String(attribute.name);
+        QString value = QLatin1String(attribute.defaultValue);
+        // However many copies somebody made a default of, this job gets as many as are asked for.
+        if (const auto saved = printer_->savedOptions().value(name); saved && name != QLatin1String(kCopies)) {
+            value = checkedAttribute(attribute, *saved).value_or(value);
+        }
+        defaults_.insert(name, value);
+    }
+}
+
+bool JobSettings::hasOption(const QString &key) const
+{
+    return ppdFindOption(printer_->ppd(), key.toUtf8().constData()) != nullptr;
+}
+
+QString JobSettings::optionValue(const QString &key) const
+{
+    const ppd_choice_t *marked = ppdFindMarkedChoice(printer_->ppd(), key.toUtf8().constData());
+    return marked ? QString::fromUtf8(marked->choice) : QString();
+}
+
+QString JobSettings::value(const QString &key) const
+{
+    if (const std::optional<QString> set = ticket_.value(key)) {
+        return *set;
+    }
+    return findAttribute(key) ? defaultValue(key) : optionValue(key);
+}
+
+QString JobSettings::defaultValue(const QString &key) const
+{
+    return defaults_.value(key.toLower());
+}
+
+bool JobSettings::differsFromDefault(const QString &key) const
+{
+    return value(key) != defaultValue(key);
+}
+
+bool JobSettings::set(const QString &key, const QString &value, ChangeOrigin origin)
+{
+    // A zero byte would let libcups see less of a text than the ticket keeps.
+    if (key.isNull() || value.isNull() || key.contains(QChar(u'\0')) || value.contains(QChar(u'\0'))) {
+        return false;
+    }
+    if (const JobAttribute *attribute = findAttribute(key)) {
+        return setAttribute(*attribute, value, origin);
+    }
+    ppd_option_t *option = ppdFindOption(printer_->ppd(), key.toUtf8().constData());
+    return option && value != QLatin1String(kSeparatorText) && setOption(*option, value, origin);
+}
+
+bool JobSettings::setOption(ppd_option_t &option, const QString &value, ChangeOrigin origin)
+{
+    const QString keyword = QString::fromUtf8(option.keyword);
+    const QString before = this->value(keyword);
+    const ppd_choice_t *listed = ppdFindChoice(&option, value.toUtf8().constData());
+    if (!listed && !isWholeNumber(value)) {
+        return false;
+    }
+    QString taken = value;
+    if (listed) {
+        // The look-up ignores case, and takes "Custom.<size>" for the choice "Custom": the first is corrected, the
+        // second kept, for the size is part of what the job needs.
+        const QString name = QString::fromUtf8(listed->choice);
+        taken = name.compare(value, Qt::CaseInsensitive) == 0 ? name : value;
+        ppdMarkOption(printer_->ppd(), option.keyword, value.toUtf8().constData());
+    }
+    ticket_.set(keyword, taken);
+    if (taken != before) {
+        emit changed(keyword, taken, origin);
+    }
+    return true;
+}
+
+bool JobSettings::setAttribute(const JobAttribute &attribute, const QString &value, ChangeOrigin origin)
+{
+    const std::optional<QString> checked = checkedAttribute(attribute, value);
+    if (!checked) {
+        return false;
+    }
+    const QString name = QLatin1String(attribute.name);
+    const QString before = this->value(name);
+    ticket_.set(name, *checked);
+    if (*checked != before) {
+        emit changed(name, *checked, origin);
+    }
+    return true;
+}
+
+void JobSettings::setHint(const QString &key, const QString &value)
+{
+    const std::optional<QString> before = ticket_.hint(key);
+    ticket_.setHint(key, value);
+    if (before != value) {
+        emit hintChanged(key, value);
+    }
+}
+
+bool JobSettings::isGrey() const
+{
+    const QString hint = ticket_.hint(QLatin1String(kColorModel)).value_or(value(QLatin1String(kColorModel)));
+    // The panel says "Gray"; a PPD's own option has other words for it, too.
+    static const QStringList greys = {QStringLiteral("gray"),  QStringLiteral("grayscale"),
+                                      QStringLiteral("kgray"), QStringLiteral("black"),
+                                      QStringLiteral("mono"),  QStringLiteral("monochrome")};
+    return greys.contains(hint.toLower());
+}
+
+JobTicket JobSettings::completeTicket() const
+{
+    JobTicket complete = ticket_;
+    for (const QString &key : optionKeys_) {
+        if (const QString set = value(key); !set.isEmpty()) {
+            complete.set(key, set);
+        }
+    }
+    for (const JobAttribute &attribute : jobAttributes()) {
+        const QString name = QLatin1String(attribute.name);
+        complete.set(name, value(name));
+    }
+    const auto agree = [&](const char *option, const char *attribute, const auto &translate) {
+        if (const QString set = value(QLatin1String(option)); !set.isEmpty()) {
+            complete.set(QLatin1String(attribute), translate(set));
+        }
+    };
+    agree("PageSize", "media", [](const QString &size) { return size; });
+    agree("Duplex", "sides", sidesOf);
+    if (ticket_.hint(QLatin1String(kColorModel)) || hasOption(QLatin1String(kColorModel))) {
+        complete.set(QStringLiteral("print-color-mode"),
+                     isGrey() ? QStringLiteral("monochrome") : QStringLiteral("color"));
+    }
+    complete.removeEmpty();
+    return complete;
+}
+
+} // namespace tessarin::host
