@@ -4,21 +4,24 @@
 #include "host/application.h"
 
 #include "host/command_line.h"
-#include "printing/delivery.h"
 #include "host/dialog.h"
-#include "printing/documents.h"
-#include "settings/host_callback.h"
-#include "printing/host_printer.h"
 #include "host/installation.h"
 #include "host/log_output.h"
+#include "host/no_dialog.h"
 #include "host/offscreen.h"
 #include "host/plugin_loader.h"
+#include "host/printer_choices.h"
+#include "printing/delivery.h"
+#include "printing/destinations.h"
+#include "printing/documents.h"
+#include "printing/host_printer.h"
 #include "printing/text.h"
 #include "printing/ticket_output.h"
 
 #include <QApplication>
 #include <QMessageBox>
 
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 
@@ -54,22 +57,46 @@ int fail(ExitCode code, const QString &reason)
     return static_cast<int>(code);
 }
 
-Outcome<std::shared_ptr<HostPrinter>> openPrinter(const CommandLine &line)
+/// The printer that the arguments name; one without name when they name none.
+PrinterChoice wantedPrinter(const CommandLine &line)
 {
     if (!line.queue.isEmpty()) {
-        return HostPrinter::fromQueue(QueueName::fromText(line.queue));
+        return queueChoice(QueueName::fromText(line.queue));
     }
-    return line.ppdFile.isEmpty() ? HostPrinter::sample(samplePpdPath()) : HostPrinter::fromPpdFile(line.ppdFile);
+    if (!line.ppdFile.isEmpty()) {
+        return ppdChoice(line.ppdFile);
+    }
+    return line.sample ? sampleChoice() : PrinterChoice();
+}
+
+/// Opens a printer at once, for what has no window to wait in.
+Outcome<std::shared_ptr<HostPrinter>> openPrinter(PrinterChoice &wanted)
+{
+    using Result = Outcome<std::shared_ptr<HostPrinter>>;
+    if (wanted.name.isEmpty()) {
+        const std::atomic<bool> never = false;
+        const Outcome<QList<Destination>> destinations = listDestinations(never);
+        if (!destinations.ok()) {
+            return Result::failed(destinations.reason());
+        }
+        const auto preferred = preferredChoice(choicesOf(destinations.value()), QString(), destinations.value());
+        if (!preferred) {
+            return Result::failed(
+                TessarinPrint::tr("there is no printer: name one with --printer, --ppd or --sample"));
+        }
+        wanted = *preferred;
+    }
+    return wanted.kind == PrinterKind::Queue ? HostPrinter::fromQueue(wanted.queue) : openLocalPrinter(wanted);
 }
 
 /// Pictures in place of a window. Nothing is submitted.
-int takePictures(PrintDialog &dialog, const DialogCallback &callback, const CommandLine &line)
+int takePictures(PrintDialog &dialog, const CommandLine &line)
 {
     const Outcome<Pictures> pictures = savePictures(dialog, line.picturesDirectory);
-    dialog.saveSettings();
-    QString failure = writeTicket(callback.ticket(), QString());
+    const JobTicket ticket = dialog.completeTicket();
+    QString failure = writeTicket(ticket, QString());
     if (failure.isEmpty() && !line.ticketFile.isEmpty() && line.ticketFile != QLatin1String("-")) {
-        failure = writeTicket(callback.ticket(), line.ticketFile);
+        failure = writeTicket(ticket, line.ticketFile);
     }
     if (!dialog.panelProblem().isEmpty()) {
         say(dialog.panelProblem());
@@ -108,14 +135,53 @@ int printSummary(PrintDialog &dialog, SummaryForm form)
 std::unique_ptr<Delivery> makeDelivery(const CommandLine &line, const HostPrinter &printer,
                                        const Documents &documents)
 {
-    if (printer.kind() == PrinterKind::Queue) {
-        return std::make_unique<QueueDelivery>(printer.queueName(), documents.list, line.ticketFile);
+    if (printer.kind() != PrinterKind::Queue) {
+        return std::make_unique<TicketDelivery>(line.ticketFile);
     }
-    return std::make_unique<TicketDelivery>(line.ticketFile);
+    auto delivery = std::make_unique<QueueDelivery>(printer.queueName(), documents.list, line.ticketFile);
+    delivery->setSeparateJobs(line.separateJobs);
+    return delivery;
 }
 
-/// Opens everything the dialog needs, in an order that checks the user's own files before the network.
-int runDialog(const CommandLine &line)
+bool writeOut(const QString &text)
+{
+    return std::fputs(text.toLocal8Bit().constData(), stdout) >= 0 && std::fflush(stdout) == 0;
+}
+
+int listPresets(const PrinterChoice &wanted)
+{
+    PresetMenu presets;
+    presets.setPrinter(wanted.identity(), wanted.queue);
+    const QStringList names = presets.names();
+    const bool written = writeOut(names.isEmpty() ? QString() : names.join(u'\n') + u'\n');
+    return static_cast<int>(written ? ExitCode::Printed : ExitCode::Usage);
+}
+
+/// What is done in place of a window, once all parts are there.
+int runWithoutWindow(const CommandLine &line, const DialogParts &parts)
+{
+    if (line.noDialog) {
+        const RunResult result = printWithoutDialog(parts);
+        if (result.code != ExitCode::Printed) {
+            return fail(result.code, result.reason);
+        }
+        return writeOut(result.output)
+                   ? static_cast<int>(ExitCode::Printed)
+                   : fail(ExitCode::Usage, TessarinPrint::tr("standard output: it cannot be written"));
+    }
+    DialogParts filled = parts;
+    if (!parts.preset.isEmpty() || !parts.values.isEmpty()) {
+        const Outcome<std::shared_ptr<OpenPrinter>> opened = openWithValues(parts);
+        if (!opened.ok()) {
+            return fail(ExitCode::Usage, opened.reason());
+        }
+    }
+    PrintDialog dialog(filled);
+    return line.summary != SummaryForm::None ? printSummary(dialog, line.summary) : takePictures(dialog, line);
+}
+
+/// Opens everything that is needed, in an order that checks the user's own files before the network.
+int runProgram(const CommandLine &line)
 {
     const Outcome<std::optional<pde::LogSink>> logSink = logSinkFor(line.log);
     if (!logSink.ok()) {
@@ -125,32 +191,37 @@ int runDialog(const CommandLine &line)
     if (!documents.ok()) {
         return fail(ExitCode::Document, documents.reason());
     }
-    Outcome<std::shared_ptr<HostPrinter>> printer = openPrinter(line);
-    if (!printer.ok()) {
-        return fail(ExitCode::Printer, printer.reason());
+    const bool withoutWindow =
+        line.noDialog || line.listPresets || line.summary != SummaryForm::None || !line.picturesDirectory.isEmpty();
+    DialogParts parts{.wanted = wantedPrinter(line), .values = line.options, .preset = line.preset};
+    if (withoutWindow || (!parts.wanted.name.isEmpty() && parts.wanted.kind != PrinterKind::Queue)) {
+        Outcome<std::shared_ptr<HostPrinter>> printer = openPrinter(parts.wanted);
+        if (!printer.ok()) {
+            return fail(ExitCode::Printer, printer.reason());
+        }
+        parts.printer = printer.take();
+    }
+    if (line.listPresets) {
+        return listPresets(parts.wanted);
     }
     const Outcome<LoadedPlugIn> plugIn = loadPlugIn(
         {.directory = bundleDirectory(line.bundle), .language = line.language, .logSink = logSink.value()});
-    if (!plugIn.ok()) {
+    if (!plugIn.ok() && withoutWindow) {
         return fail(ExitCode::PlugIn, plugIn.reason());
     }
-    const auto callback = std::make_shared<DialogCallback>(printer.value());
-    const std::unique_ptr<Delivery> delivery = makeDelivery(line, *printer.value(), documents.value());
-    QStringList names;
+    parts.plugIn = plugIn.ok() ? plugIn.value().plugIn.get() : nullptr;
+    parts.panelProblem = plugIn.reason();
     for (const JobDocument &document : documents.value().list) {
-        names << document.name;
+        parts.documentPaths << document.path;
+        parts.documentNames << document.name;
     }
-    PrintDialog dialog({.printer = printer.value(),
-                        .callback = callback,
-                        .plugIn = plugIn.value().plugIn.get(),
-                        .delivery = delivery.get(),
-                        .documentNames = names});
-    if (line.summary != SummaryForm::None) {
-        return printSummary(dialog, line.summary);
+    parts.makeDelivery = [&](const HostPrinter &printer) { return makeDelivery(line, printer, documents.value()); };
+    if (withoutWindow) {
+        return runWithoutWindow(line, parts);
     }
-    if (!line.picturesDirectory.isEmpty()) {
-        return takePictures(dialog, *callback, line);
-    }
+    parts.discover = parts.wanted.kind == PrinterKind::Queue || parts.wanted.name.isEmpty();
+    parts.offered = {pdfChoice()};
+    PrintDialog dialog(parts);
     const bool printed = dialog.exec() == QDialog::Accepted;
     return static_cast<int>(printed ? ExitCode::Printed : ExitCode::Cancelled);
 }
@@ -161,8 +232,7 @@ int answerAndLeave(int argc, char **argv)
     const QString text = asksForHelp(argc, argv)
                              ? helpText()
                              : QStringLiteral("tessarin-print %1\n").arg(QLatin1String(TESSARIN_VERSION));
-    const bool written = std::fputs(text.toLocal8Bit().constData(), stdout) >= 0 && std::fflush(stdout) == 0;
-    return static_cast<int>(written ? ExitCode::Printed : ExitCode::Usage);
+    return static_cast<int>(writeOut(text) ? ExitCode::Printed : ExitCode::Usage);
 }
 
 } // namespace
@@ -178,12 +248,12 @@ int runApplication(int argc, char **argv)
         return answerAndLeave(argc, argv);
     }
     const bool noDisplay = displayIsMissing(argc, argv);
-    if (noDisplay) {
+    const bool needsWindow = !asksForNoWindow(argc, argv);
+    if (noDisplay || (!needsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {
         chooseOffscreenPlatform();
     }
     const QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
-    const bool needsWindow = !asksForSummary(argc, argv);
     if (noDisplay && needsWindow) {
         arguments.insert(1, QStringLiteral("--pictures=") + defaultPicturesDirectory());
     }
@@ -191,7 +261,7 @@ int runApplication(int argc, char **argv)
     if (!line.ok()) {
         return fail(ExitCode::Usage, line.reason());
     }
-    const int code = runDialog(line.value());
+    const int code = runProgram(line.value());
     if (noDisplay && needsWindow && code == static_cast<int>(ExitCode::Printed)) {
         say(TessarinPrint::tr("there is no display: to get a window, run this in a desktop session, set DISPLAY or "
                               "WAYLAND_DISPLAY, or use a virtual display: xvfb-run -a tessarin-print"));

@@ -4,10 +4,13 @@
 #include "host/command_line.h"
 
 #include "printing/text.h"
+#include "settings/page_ranges.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <initializer_list>
 #include <string_view>
 
 namespace tessarin::host {
@@ -21,6 +24,26 @@ struct Options {
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
                                TessarinPrint::tr("Print on a queue of the print server."),
                                TessarinPrint::tr("queue")};
+    QCommandLineOption sample{QStringLiteral("sample"),
+                              TessarinPrint::tr("Show the sample printer that comes with the program.")};
+    QCommandLineOption option{
+        QStringLiteral("o"),
+        TessarinPrint::tr("Set an option of the printer or the job; may be given more than once."),
+        TessarinPrint::tr("key=value")};
+    QCommandLineOption copies{QStringLiteral("n"), TessarinPrint::tr("Print this many copies."),
+                              TessarinPrint::tr("copies")};
+    QCommandLineOption pages{QStringLiteral("P"), TessarinPrint::tr("Print these pages, such as 1-3,5,8-."),
+                             TessarinPrint::tr("ranges")};
+    QCommandLineOption preset{QStringLiteral("preset"),
+                              TessarinPrint::tr("Start from a preset of the printer; -o, -n and -P go over it."),
+                              TessarinPrint::tr("name")};
+    QCommandLineOption noDialog{
+        QStringLiteral("no-dialog"),
+        TessarinPrint::tr("Print at once, without a window; the panel's rules apply all the same.")};
+    QCommandLineOption listPresets{QStringLiteral("list-presets"),
+                                   TessarinPrint::tr("Print nothing: list the printer's presets, one a line.")};
+    QCommandLineOption separateJobs{QStringLiteral("separate-jobs"),
+                                    TessarinPrint::tr("Print each document as a job of its own.")};
     QCommandLineOption ticket{
         QStringLiteral("ticket"),
         TessarinPrint::tr("Write the job's options to a file, one key=value per line (\"-\": to standard "
@@ -55,25 +78,59 @@ struct Options {
 
     void addTo(QCommandLineParser &parser) const
     {
-        parser.addOptions({ppd, printer, ticket, log, bundle, language, pictures, summary, help, version});
+        parser.addOptions({printer, ppd, sample, option, copies, pages, preset, noDialog, separateJobs, listPresets,
+                           ticket, log, bundle, language, pictures, summary, help, version});
         parser.addPositionalArgument(QStringLiteral("document"),
                                      TessarinPrint::tr("The documents to print (\"-\": standard input)."),
                                      QStringLiteral("[document...]"));
     }
 };
 
-bool mentions(int argc, const char *const *argv, std::string_view brief, std::string_view full)
+bool mentions(int argc, const char *const *argv, std::initializer_list<std::string_view> names)
 {
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
         if (argument == "--") {
             return false;
         }
-        if (argument == brief || argument == full) {
+        if (std::find(names.begin(), names.end(), argument) != names.end()) {
             return true;
         }
     }
     return false;
+}
+
+/// The settings of -o, -n and -P. The reason of a failure says which of them is none.
+Outcome<KeyValues> settingsOf(const QCommandLineParser &parser, const Options &options)
+{
+    using Result = Outcome<KeyValues>;
+    KeyValues settings;
+    for (const QString &text : parser.values(options.option)) {
+        const qsizetype equals = text.indexOf(u'=');
+        if (equals == 0 || text.isEmpty()) {
+            return Result::failed(TessarinPrint::tr("usage: -o %1: there is no key before the \"=\"").arg(text));
+        }
+        // As everywhere in printing, an option without a value is switched on, and off with "no" before it.
+        const bool negated = equals < 0 && text.startsWith(QLatin1String("no"));
+        settings << (equals > 0 ? KeyValue{.key = text.left(equals), .value = text.mid(equals + 1)}
+                     : negated  ? KeyValue{.key = text.mid(2), .value = QStringLiteral("false")}
+                                : KeyValue{.key = text, .value = QStringLiteral("true")});
+    }
+    if (parser.isSet(options.copies)) {
+        settings << KeyValue{.key = QLatin1String(kCopies), .value = parser.value(options.copies)};
+        if (!isPossibleAttribute(kCopies, settings.back().value)) {
+            return Result::failed(TessarinPrint::tr("usage: -n %1: not a number of copies from 1 to 9999")
+                                      .arg(settings.back().value));
+        }
+    }
+    if (parser.isSet(options.pages)) {
+        const QString ranges = parser.value(options.pages);
+        if (const auto parsed = parsePageRanges(ranges); !parsed.ok()) {
+            return Result::failed(TessarinPrint::tr("usage: -P %1: %2").arg(ranges, parsed.reason()));
+        }
+        settings << KeyValue{.key = QLatin1String(kPageRanges), .value = ranges};
+    }
+    return settings;
 }
 
 /// What is wrong with arguments that could be read; an empty text when nothing is.
@@ -82,9 +139,18 @@ QString contradiction(const CommandLine &line)
     if (!line.ppdFile.isEmpty() && !line.queue.isEmpty()) {
         return TessarinPrint::tr("usage: --ppd and --printer cannot be given together: one printer at a time");
     }
-    const bool opensWindow = line.picturesDirectory.isEmpty() && line.summary == SummaryForm::None;
-    if (!line.queue.isEmpty() && line.documents.isEmpty() && opensWindow) {
-        return TessarinPrint::tr("usage: no document: there is nothing to print on queue %1").arg(line.queue);
+    if (line.sample && (!line.ppdFile.isEmpty() || !line.queue.isEmpty())) {
+        return TessarinPrint::tr("usage: --sample cannot be given with --ppd or --printer: one printer at a time");
+    }
+    const bool prints = line.picturesDirectory.isEmpty() && line.summary == SummaryForm::None && !line.listPresets;
+    if (line.noDialog && !prints) {
+        return TessarinPrint::tr(
+            "usage: --no-dialog prints, which --pictures, --summary and --list-presets do not");
+    }
+    const bool needsDocument = !line.queue.isEmpty() || (line.noDialog && line.ppdFile.isEmpty() && !line.sample);
+    if (needsDocument && line.documents.isEmpty() && prints) {
+        return TessarinPrint::tr("usage: no document: there is nothing to print on queue %1")
+            .arg(line.queue.isEmpty() ? TessarinPrint::tr("(the default)") : line.queue);
     }
     if (line.documents.count(QStringLiteral("-")) > 1) {
         return TessarinPrint::tr("usage: standard input (\"-\") can be printed only once");
@@ -146,7 +212,7 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
         return Result::failed(TessarinPrint::tr("usage: %1").arg(parser.errorText()));
     }
     for (const QCommandLineOption &option : {options.ppd, options.printer, options.ticket, options.log,
-                                             options.bundle, options.language, options.pictures}) {
+                                             options.bundle, options.language, options.pictures, options.preset}) {
         if (parser.isSet(option) && parser.value(option).isEmpty()) {
             return Result::failed(
                 TessarinPrint::tr("usage: --%1: the value is empty").arg(option.names().constLast()));
@@ -156,8 +222,18 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
     if (!summary.ok()) {
         return Result::failed(summary.reason());
     }
+    const Outcome<KeyValues> settings = settingsOf(parser, options);
+    if (!settings.ok()) {
+        return Result::failed(settings.reason());
+    }
     const CommandLine line{.ppdFile = parser.value(options.ppd),
                            .queue = parser.value(options.printer),
+                           .sample = parser.isSet(options.sample),
+                           .options = settings.value(),
+                           .preset = parser.value(options.preset),
+                           .noDialog = parser.isSet(options.noDialog),
+                           .listPresets = parser.isSet(options.listPresets),
+                           .separateJobs = parser.isSet(options.separateJobs),
                            .ticketFile = parser.value(options.ticket),
                            .log = parser.value(options.log),
                            .bundle = parser.value(options.bundle),
@@ -171,30 +247,31 @@ Outcome<CommandLine> parseCommandLine(const QStringList &arguments)
 
 bool asksForHelp(int argc, const char *const *argv)
 {
-    return mentions(argc, argv, "-h", "--help");
+    return mentions(argc, argv, {"-h", "--help"});
 }
 
 bool asksForVersion(int argc, const char *const *argv)
 {
-    return mentions(argc, argv, "-v", "--version");
+    return mentions(argc, argv, {"-v", "--version"});
 }
 
-bool asksForSummary(int argc, const char *const *argv)
+bool asksForNoWindow(int argc, const char *const *argv)
 {
-    return mentions(argc, argv, "--summary", "--summary=json") || mentions(argc, argv, "--summary=text", "");
+    return mentions(argc, argv, {"--summary", "--summary=json", "--summary=text", "--no-dialog", "--list-presets"});
 }
 
 QString helpText()
 {
     QCommandLineParser parser;
     Options().addTo(parser);
-    parser.setApplicationDescription(TessarinPrint::tr(
-        "A print dialog with the panel of printer settings. Without --ppd or --printer it shows the sample "
-        "printer."));
+    parser.setApplicationDescription(TessarinPrint::tr("A print dialog with the panel of printer settings. Without "
+                                                       "--printer, --ppd or --sample it starts with the "
+                                                       "printer that was used last, or the default one."));
     return parser.helpText() +
            TessarinPrint::tr(
-               "\nExit codes: 0 printed (or pictures made), 1 cancelled, 2 usage or a file that cannot be "
-               "written, 3 printer, 4 document, 5 plug-in.\n");
+               "\nExit codes: 0 printed (or done what was asked in place of printing), 1 cancelled, 2 usage, "
+               "settings that are not possible or a file that cannot be written, 3 printer, 4 document, "
+               "5 plug-in.\n");
 }
 
 } // namespace tessarin::host

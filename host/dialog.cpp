@@ -3,16 +3,18 @@
 
 #include "host/dialog.h"
 
-#include "host/printer_header.h"
+#include "host/line_label.h"
+#include "host/memory.h"
+#include "host/printer_choices.h"
 #include "printing/text.h"
 
 #include <QDialogButtonBox>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QMessageBox>
 #include <QScreen>
 #include <QShowEvent>
-#include <QVBoxLayout>
+
+#include <utility>
 
 namespace tessarin::host {
 
@@ -20,29 +22,6 @@ namespace {
 
 constexpr int kMargin = 16;
 constexpr int kSpacing = 8;
-
-/// What a line under the printer's name tells of printer and documents.
-QString detailOf(const HostPrinter &printer, const QStringList &documents)
-{
-    QString where;
-    switch (printer.kind()) {
-    case PrinterKind::Queue:
-        where = TessarinPrint::tr("Queue %1").arg(printer.queueName().text());
-        break;
-    case PrinterKind::PpdFile:
-        where = TessarinPrint::tr("PPD file %1")
-                    .arg(printer.descriptionPath(QLatin1String(pde::kPPDDescriptionType)).value_or(QString()));
-        break;
-    case PrinterKind::Sample:
-        where = TessarinPrint::tr("Sample printer: Print lists the job's options");
-        break;
-    }
-    if (documents.isEmpty()) {
-        return where;
-    }
-    //: %1 says where the printer is, %2 names the documents
-    return TessarinPrint::tr("%1  ·  %2").arg(where, documents.join(QStringLiteral(", ")));
-}
 
 QFrame *makeLine(QWidget *parent)
 {
@@ -52,84 +31,107 @@ QFrame *makeLine(QWidget *parent)
     return line;
 }
 
-QLabel *makeNote(const QString &text, QWidget *parent)
-{
-    auto *note = new QLabel(text, parent);
-    note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
-    note->setObjectName(QStringLiteral("panelProblem"));
-    return note;
-}
-
 } // namespace
 
-PrintDialog::PrintDialog(const DialogParts &parts, QWidget *parent)
-    : QDialog(parent), parts_(parts), session_(openPanel(*parts.plugIn, parts.callback))
+PrintDialog::PrintDialog(DialogParts parts, QWidget *parent)
+    : QDialog(parent), parts_(std::move(parts)), loader_(std::make_unique<PrinterLoader>()),
+      finder_(std::make_unique<DestinationFinder>()), renderer_(std::make_unique<PreviewRenderer>())
 {
-    const QString name = parts_.printer->displayName();
-    setWindowTitle(TessarinPrint::tr("Print – %1").arg(name));
-    auto *header = new PrinterHeader(name, detailOf(*parts_.printer, parts_.documentNames), this);
-    header->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
-    body_ = makeBody();
-
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(header);
-    column->addWidget(makeLine(this));
+    makeHeader(column);
+
+    body_ = new QWidget(this);
+    bodyColumn_ = new QVBoxLayout(body_);
+    bodyColumn_->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+    placeholder_ = new QLabel(body_);
+    placeholder_->setObjectName(QStringLiteral("placeholder"));
+    placeholder_->setTextFormat(Qt::PlainText);
+    placeholder_->setWordWrap(true);
+    placeholder_->setAlignment(Qt::AlignCenter);
+    bodyColumn_->addWidget(placeholder_, 1);
     column->addWidget(body_, 1);
-    column->addWidget(makeLine(this));
-    column->addWidget(makeFooter());
+    makeFooter(column);
+
+    preview_ = new PreviewPane(this);
+    preview_->setRenderer(renderer_.get());
+    preview_->hide();
+    if (!parts_.documentPaths.isEmpty()) {
+        renderer_->setDocuments(parts_.documentPaths);
+    }
+
+    connect(loader_.get(), &PrinterLoader::loaded, this,
+            [this](const std::shared_ptr<HostPrinter> &printer) { adopt(printer, opening_); });
+    connect(loader_.get(), &PrinterLoader::failed, this, &PrintDialog::printerFailed);
+    connect(finder_.get(), &DestinationFinder::found, this, &PrintDialog::destinationsFound);
+    connect(finder_.get(), &DestinationFinder::failed, this, [this](const QString &reason) {
+        picker_->setSearching(false);
+        if (!open_ && opening_.name.isEmpty()) {
+            showPlaceholder(reason, {{TessarinPrint::tr("Try &Again"), [this] { start(); }}});
+        } else {
+            notice_->tell(reason);
+        }
+    });
+
+    setWindowTitle(TessarinPrint::tr("Print"));
+    picker_->setChoices(parts_.offered);
+    if (parts_.printer) {
+        adopt(parts_.printer, parts_.wanted);
+    } else {
+        showPlaceholder(TessarinPrint::tr("Looking for printers…"));
+    }
 }
 
 PrintDialog::~PrintDialog()
 {
     // The panel still knows its controls: were they to go with the dialog, the panel's own clean-up, which comes
     // with its factory, would find them gone.
-    if (area_) {
-        area_->releaseView();
+    if (pages_) {
+        pages_->takePreview(this);
+        delete pages_;
     }
+    preview_->setRenderer(nullptr);
 }
 
-QWidget *PrintDialog::makeBody()
+void PrintDialog::makeHeader(QVBoxLayout *column)
 {
-    auto *body = new QWidget(this);
-    auto *column = new QVBoxLayout(body);
-    column->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
-    column->setSpacing(kSpacing);
-    if (!session_.name.isEmpty()) {
-        auto *heading = new LineLabel(session_.name, body);
-        heading->setObjectName(QStringLiteral("panelName"));
-        QFont font = heading->font();
-        font.setBold(true);
-        heading->setFont(font);
-        column->addWidget(heading);
-    }
-    if (!session_.problem.isEmpty()) {
-        column->addWidget(makeNote(session_.problem, body));
-    }
-    if (session_.view) {
-        area_ = new PanelArea(body);
-        area_->showView(session_.view);
-        summary_ = new SummaryPage(body);
-        pages_ = new QStackedWidget(body);
-        pages_->addWidget(area_);
-        pages_->addWidget(summary_);
-        column->addWidget(pages_, 1);
-    } else {
-        column->addWidget(
-            makeNote(TessarinPrint::tr("You can print all the same, with the printer's own settings."), body));
-        column->addStretch(1);
-    }
-    return body;
+    picker_ = new PrinterPicker(this);
+    picker_->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+    picker_->setRemark(parts_.documentNames.join(QStringLiteral(", ")));
+    connect(picker_, &PrinterPicker::picked, this, &PrintDialog::openChoice);
+    connect(picker_, &PrinterPicker::refreshRequested, this, [this] {
+        picker_->setSearching(true);
+        finder_->start();
+    });
+    notice_ = new NoticeBar(this);
+    auto *margin = new QHBoxLayout;
+    margin->setContentsMargins(kMargin, kSpacing, kMargin, 0);
+    margin->addWidget(notice_);
+    column->addWidget(picker_);
+    column->addWidget(makeLine(this));
+    column->addLayout(margin);
 }
 
-QWidget *PrintDialog::makeFooter()
+void PrintDialog::makeFooter(QVBoxLayout *column)
 {
-    auto *footer = new QWidget(this);
-    status_ = new LineLabel(QString(), footer);
+    presets_ = new PresetMenu(this);
+    connect(presets_, &PresetMenu::applyRequested, this, &PrintDialog::applyPreset);
+    connect(presets_, &PresetMenu::resetRequested, this, &PrintDialog::resetAll);
+    connect(presets_, &PresetMenu::told, notice_, [this](const QString &text) { notice_->tell(text); });
+    presets_->setValuesSource([this] {
+        saveSettings();
+        return open_;
+    });
+    status_ = new LineLabel(QString(), this);
     status_->setObjectName(QStringLiteral("status"));
-    auto *buttons = new QDialogButtonBox(footer);
+    progress_ = new QProgressBar(this);
+    progress_->setObjectName(QStringLiteral("progress"));
+    progress_->setAccessibleName(TessarinPrint::tr("Progress"));
+    progress_->setTextVisible(false);
+    progress_->setMaximumWidth(160);
+    progress_->hide();
+    auto *buttons = new QDialogButtonBox(this);
     print_ = buttons->addButton(TessarinPrint::tr("&Print"), QDialogButtonBox::AcceptRole);
     print_->setObjectName(QStringLiteral("print"));
     print_->setDefault(true);
@@ -138,25 +140,19 @@ QWidget *PrintDialog::makeFooter()
     connect(buttons, &QDialogButtonBox::accepted, this, &PrintDialog::print);
     connect(buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
 
-    auto *row = new QHBoxLayout(footer);
+    auto *row = new QHBoxLayout;
     row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
-    if (pages_) {
-        toSummary_ = new QPushButton(TessarinPrint::tr("&Summary"), footer);
-        toSummary_->setObjectName(QStringLiteral("toSummary"));
-        toSummary_->setCheckable(true);
-        toSummary_->setAutoDefault(false);
-        toSummary_->setToolTip(TessarinPrint::tr("List all settings as Print will send them"));
-        connect(toSummary_, &QPushButton::toggled, this, &PrintDialog::showSummary);
-        row->addWidget(toSummary_);
-    }
+    row->addWidget(presets_);
     row->addWidget(status_, 1);
+    row->addWidget(progress_);
     row->addWidget(buttons);
-    return footer;
+    column->addWidget(makeLine(this));
+    column->addLayout(row);
 }
 
 QSize PrintDialog::sizeHint() const
 {
-    constexpr QSize least(480, 240);
+    constexpr QSize least(640, 420);
     return QDialog::sizeHint().expandedTo(least);
 }
 
@@ -169,87 +165,153 @@ void PrintDialog::showEvent(QShowEvent *event)
         print_->setFocus();
     }
     QDialog::showEvent(event);
-}
-
-void PrintDialog::saveSettings()
-{
-    if (session_.panel) {
-        session_.panel->saveValuesAndReturnError(nullptr);
+    if (!started_) {
+        started_ = true;
+        start();
     }
 }
 
-std::optional<QList<SummaryLine>> PrintDialog::currentSummary()
+void PrintDialog::start()
 {
-    if (!session_.panel) {
-        return std::nullopt;
+    if (!open_ && !parts_.wanted.name.isEmpty()) {
+        openChoice(parts_.wanted);
     }
-    saveSettings(); // the panel's summary shows what was last stored
-    const std::optional<pde::Summary> summary = session_.panel->summaryInfo();
-    return summary ? std::optional(summaryLines(*summary)) : std::nullopt;
+    if (parts_.discover) {
+        picker_->setSearching(true);
+        finder_->start();
+    }
 }
 
-void PrintDialog::showSummary(bool shown)
+void PrintDialog::openChoice(const PrinterChoice &choice)
 {
-    if (shown) {
-        summary_->showLines(currentSummary().value_or(QList<SummaryLine>()));
-    }
-    pages_->setCurrentWidget(shown ? static_cast<QWidget *>(summary_) : area_);
-}
-
-void PrintDialog::print()
-{
-    if (delivering_) {
+    loader_->cancel();
+    opening_ = choice;
+    status_->setText(TessarinPrint::tr("Opening %1…").arg(choice.name));
+    print_->setEnabled(false);
+    if (choice.kind == PrinterKind::Queue) {
+        if (!open_) {
+            showPlaceholder(TessarinPrint::tr("Opening %1…").arg(choice.name));
+        }
+        loader_->start(choice.queue);
         return;
     }
-    setDelivering(true);
-    saveSettings();
-    parts_.delivery->start(parts_.callback->ticket(), [this](const QString &failure) { finish(failure); });
+    const Outcome<std::shared_ptr<HostPrinter>> printer = openLocalPrinter(choice);
+    if (printer.ok()) {
+        adopt(printer.value(), choice);
+    } else {
+        printerFailed(printer.reason());
+    }
 }
 
-void PrintDialog::finish(const QString &failure)
+void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, const PrinterChoice &choice)
 {
-    if (failure.isEmpty()) {
-        accept();
-        return;
+    opening_ = {};
+    status_->clear();
+    notice_->dismiss();
+    presets_->setPrinter(choice.identity(), choice.queue);
+    KeyValues values;
+    QString problem;
+    // Preset and settings of the command line are for the first printer.
+    if (const QString name = std::exchange(parts_.preset, {}); !name.isEmpty()) {
+        const Outcome<KeyValues> preset = presets_->valuesOf(name);
+        values = preset.ok() ? preset.value() : KeyValues();
+        problem = preset.reason();
     }
-    const bool wanted = stopping_;
-    setDelivering(false);
-    if (wanted) {
-        status_->setText(TessarinPrint::tr("Not printed: %1").arg(failure));
-        return;
+    values += std::exchange(parts_.values, {});
+    if (!values.isEmpty()) {
+        JobTicket all;
+        for (const KeyValue &one : values) {
+            all.set(one.key, one.value);
+        }
+        Outcome<std::shared_ptr<HostPrinter>> again = printer->again(all.toCupsOptions());
+        if (!again.ok()) {
+            printerFailed(again.reason());
+            return;
+        }
+        printer = again.take();
     }
-    auto *box =
-        new QMessageBox(QMessageBox::Critical, TessarinPrint::tr("Not printed"), failure, QMessageBox::Ok, this);
-    box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(TessarinPrint::tr("Your settings are kept: you can try again."));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    picker_->setCurrent(choice);
+    setWindowTitle(TessarinPrint::tr("Print – %1").arg(choice.name));
+    showPrinter(std::make_shared<OpenPrinter>(std::move(printer), parts_.plugIn, parts_.panelProblem, values));
+    tellDifferences(TessarinPrint::tr("Not possible on this printer"), values);
+    if (!problem.isEmpty()) {
+        notice_->tell(problem);
+    }
 }
 
-void PrintDialog::setDelivering(bool delivering)
+void PrintDialog::printerFailed(const QString &reason)
 {
-    delivering_ = delivering;
-    stopping_ = false;
-    if (delivering) {
-        setFocus(); // disabling Print would move the focus to Cancel, and a second Enter would stop the printing
+    const PrinterChoice failed = std::exchange(opening_, {});
+    status_->clear();
+    const QList<NoticeAction> again = {{TessarinPrint::tr("Try &Again"), [this, failed] { openChoice(failed); }}};
+    if (!open_) {
+        picker_->setCurrent(failed);
+        showPlaceholder(TessarinPrint::tr("There is no printer open."));
     }
-    print_->setEnabled(!delivering);
-    body_->setEnabled(!delivering);
-    if (!delivering) {
-        print_->setFocus();
-    }
-    status_->setText(delivering ? TessarinPrint::tr("Printing…") : QString());
+    picker_->setCurrent(open_ ? picker_->current() : failed); // the list goes back to the printer that is open
+    print_->setEnabled(open_ != nullptr);
+    notice_->tell(reason, again);
 }
 
-void PrintDialog::reject()
+void PrintDialog::destinationsFound(const QList<Destination> &destinations)
 {
-    if (!delivering_) {
-        QDialog::reject();
+    picker_->setSearching(false);
+    const QList<PrinterChoice> queues = choicesOf(destinations);
+    picker_->setChoices(queues + parts_.offered);
+    if (open_ || !opening_.name.isEmpty()) {
         return;
     }
-    stopping_ = true;
-    status_->setText(TessarinPrint::tr("Stopping…"));
-    parts_.delivery->cancel();
+    if (const std::optional<PrinterChoice> first = preferredChoice(queues, lastPrinter(), destinations)) {
+        openChoice(*first);
+    } else {
+        showPlaceholder(TessarinPrint::tr("There are no printers. Choose another destination from the list above, "
+                                          "or add a printer in the system's settings and look again."));
+    }
+}
+
+void PrintDialog::showPlaceholder(const QString &text, const QList<NoticeAction> &actions)
+{
+    placeholder_->setText(text);
+    placeholder_->show();
+    print_->setEnabled(false);
+    if (!actions.isEmpty()) {
+        placeholder_->setText(TessarinPrint::tr("There is no printer open."));
+        notice_->tell(text, actions);
+    }
+}
+
+void PrintDialog::showPrinter(std::shared_ptr<OpenPrinter> printer)
+{
+    std::optional<Page> page;
+    if (pages_) {
+        page = pages_->page();
+        pages_->takePreview(this);
+        delete std::exchange(pages_, nullptr);
+    }
+    open_ = std::move(printer);
+    pages_ = new PagesArea(*open_, preview_, body_);
+    pages_->showPage(page.value_or(panelView() ? Page::Panel : Page::General));
+    placeholder_->hide();
+    bodyColumn_->addWidget(pages_, 1);
+    print_->setEnabled(!delivering_);
+    connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose);
+    connect(pages_, &PagesArea::resetRequested, this, &PrintDialog::resetKeys);
+    connect(pages_, &PagesArea::resetAllRequested, this, &PrintDialog::resetAll);
+    connect(pages_, &PagesArea::pageShown, this, [this](Page shown) {
+        if (shown == Page::Summary) {
+            saveSettings();
+            pages_->refresh();
+        }
+    });
+    connect(&open_->settings(), &JobSettings::changed, this, &PrintDialog::updatePreview);
+    connect(&open_->settings(), &JobSettings::hintChanged, this, &PrintDialog::updatePreview);
+    updatePreview();
+}
+
+void PrintDialog::updatePreview()
+{
+    renderer_->setLayout(layoutOf(open_->settings()));
+    renderer_->setPages(selectedPages(open_->settings()));
 }
 
 } // namespace tessarin::host

@@ -22,6 +22,11 @@ QString samplePpdPath()
     return besideProgram(TESSARIN_DATA_FROM_BIN "/tessarin-sample.ppd");
 }
 
+QString pdfPpdPath()
+{
+    return besideProgram(TESSARIN_DATA_FROM_BIN "/save-as-pdf.ppd");
+}
+
 QString bundleDirectory(const QString &asked)
 {
     if (!asked.isEmpty()) {

@@ -40,6 +40,11 @@ void CupsOptions::addAll(const CupsOptions &other)
     }
 }
 
+void CupsOptions::remove(const QString &name)
+{
+    count_ = cupsRemoveOption(name.toUtf8().constData(), count_, &options_);
+}
+
 std::optional<QString> CupsOptions::value(const QString &name) const
 {
     const char *found = cupsGetOption(name.toUtf8().constData(), count_, options_);

@@ -29,6 +29,8 @@ public:
     void add(const QString &name, const QString &value);
     /// Sets every option of another list.
     void addAll(const CupsOptions &other);
+    /// Takes an option out, if it is there.
+    void remove(const QString &name);
     /// The value of an option; nothing when it is not set.
     std::optional<QString> value(const QString &name) const;
 

@@ -3,8 +3,13 @@
 
 #include "printing/delivery.h"
 
+#include "printing/text.h"
 #include "printing/ticket_output.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace tessarin::host {
@@ -40,18 +45,57 @@ void QueueDelivery::start(const JobTicket &ticket, DeliveryFinished finished)
         worker_.join();
     }
     cancelled_ = false;
-    JobRequest request{.queue = queue_, .documents = documents_, .ticket = ticket};
-    worker_ = std::thread([this, request = std::move(request), finished = std::move(finished)] {
-        const Outcome<int> result = submitJob(request, cancelled_);
-        const int jobId = result.ok() ? result.value() : 0;
+    worker_ = std::thread([this, ticket, documents = documents_, finished = std::move(finished)] {
+        Sent sent = sendAll(ticket, documents);
         QMetaObject::invokeMethod(
             &receiver_,
-            [this, jobId, failure = result.reason(), finished] {
-                jobId_ = jobId;
-                finished(failure);
+            [this, sent = std::move(sent), finished] {
+                jobIds_ += sent.jobIds;
+                for (std::size_t i = 0; i < sent.documents; ++i) {
+                    printed_ << documents_[i].name;
+                }
+                documents_.erase(documents_.begin(),
+                                 documents_.begin() + static_cast<std::ptrdiff_t>(sent.documents));
+                const bool partly = !sent.failure.isEmpty() && !printed_.isEmpty();
+                finished(partly ? TessarinPrint::tr("%1 (printed already: %2)")
+                                      .arg(sent.failure, printed_.join(QStringLiteral(", ")))
+                                : sent.failure);
             },
             Qt::QueuedConnection);
     });
+}
+
+QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::vector<JobDocument> &documents)
+{
+    constexpr qint64 steps = 200; // finer progress would only keep the user interface busy
+    qint64 total = 0;
+    for (const JobDocument &document : documents) {
+        total += QFileInfo(document.path).size();
+    }
+    const auto onSent = [this, total, done = qint64(0), told = qint64(-1)](qint64 bytes) mutable {
+        done += bytes;
+        if (const qint64 step = total > 0 ? done * steps / total : 0; step != told) {
+            told = step;
+            QMetaObject::invokeMethod(
+                &receiver_, [this, done, total] { tellProgress(done, total); }, Qt::QueuedConnection);
+        }
+    };
+    const std::size_t perJob = separate_ ? 1 : documents.size();
+    const std::function<void(qint64)> observer = onSent;
+    Sent sent;
+    do {
+        const auto first = documents.begin() + static_cast<std::ptrdiff_t>(sent.documents);
+        const auto count = static_cast<std::ptrdiff_t>(std::min(perJob, documents.size() - sent.documents));
+        const Outcome<int> job = submitJob(
+            {.queue = queue_, .documents = {first, first + count}, .ticket = ticket, .sent = observer}, cancelled_);
+        if (!job.ok()) {
+            sent.failure = job.reason();
+            return sent;
+        }
+        sent.jobIds << job.value();
+        sent.documents += static_cast<std::size_t>(count);
+    } while (sent.documents < documents.size());
+    return sent;
 }
 
 void QueueDelivery::cancel()

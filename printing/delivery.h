@@ -10,18 +10,26 @@
 #include "printing/job_submission.h"
 #include "printing/ticket.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
 #include <functional>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace tessarin::host {
 
 /// Hears of the end of a delivery: an empty text when all went well, else what went wrong. Called once per start,
 /// on the user-interface thread, possibly before start() returns.
 using DeliveryFinished = std::function<void(const QString &failure)>;
+
+/// Hears how far a delivery is, on the user-interface thread; the unit is the delivery's own. A total of 0:
+/// unknown.
+using ProgressObserver = std::function<void(qint64 done, qint64 total)>;
 
 class Delivery {
 public:
@@ -34,6 +42,20 @@ public:
     virtual void start(const JobTicket &ticket, DeliveryFinished finished) = 0;
     /// Asks a running delivery to stop; its end is still reported.
     virtual void cancel() = 0;
+    /// The numbers of the jobs that came of the last delivery, as the print server counts them; empty: none did.
+    virtual QList<int> jobIds() const { return {}; }
+    void setProgressObserver(ProgressObserver observer) { observer_ = std::move(observer); }
+
+protected:
+    void tellProgress(qint64 done, qint64 total) const
+    {
+        if (observer_) {
+            observer_(done, total);
+        }
+    }
+
+private:
+    ProgressObserver observer_{};
 };
 
 /// Writes the ticket to a file or to standard output.
@@ -50,7 +72,10 @@ private:
 };
 
 /// Sends documents to a queue on a thread of its own, after writing the ticket where that is asked for too. A
-/// ticket that cannot be written holds the job back, so that trying again prints once.
+/// ticket that cannot be written holds the job back, so that trying again prints once. Progress is told in bytes.
+///
+/// All documents are one job, or each is one. When a job of several fails, the ones before it are printed, and the
+/// next start sends only the others.
 class QueueDelivery final : public Delivery {
 public:
     /// `ticketFile` as for writeTicket(), but empty for no ticket file.
@@ -60,16 +85,30 @@ public:
 
     void start(const JobTicket &ticket, DeliveryFinished finished) override;
     void cancel() override;
-    /// The number of the job that was sent; 0: none yet.
-    int jobId() const { return jobId_; }
+    /// Makes each document a job of its own. To be called before the first start.
+    void setSeparateJobs(bool separate) { separate_ = separate; }
+    /// The number of the last job that was sent; 0: none yet.
+    int jobId() const { return jobIds_.isEmpty() ? 0 : jobIds_.last(); }
+    QList<int> jobIds() const override { return jobIds_; }
 
 private:
+    /// What a worker did, handed over to the user-interface thread at its end.
+    struct Sent {
+        QList<int> jobIds{};
+        std::size_t documents = 0;
+        QString failure{};
+    };
+
+    Sent sendAll(const JobTicket &ticket, const std::vector<JobDocument> &documents);
+
     QueueName queue_;
-    std::vector<JobDocument> documents_;
+    std::vector<JobDocument> documents_; ///< those that are still to be sent
     QString ticketFile_;
+    bool separate_ = false;
     std::atomic<bool> cancelled_ = false;
-    int jobId_ = 0;
-    QObject receiver_{}; ///< lives on the user-interface thread; the worker's end is reported through it
+    QList<int> jobIds_{};
+    QStringList printed_{}; ///< names of documents that became jobs
+    QObject receiver_{};    ///< lives on the user-interface thread; the worker's end is reported through it
     std::thread worker_{};
 };
 

@@ -43,6 +43,11 @@ PrinterOutcome HostPrinter::sample(const QString &path)
     return open({.kind = PrinterKind::Sample, .path = path, .identifier = QStringLiteral("sample")});
 }
 
+PrinterOutcome HostPrinter::saveAsPdf(const QString &path)
+{
+    return open({.kind = PrinterKind::Pdf, .path = path, .identifier = QStringLiteral("pdf")});
+}
+
 PrinterOutcome HostPrinter::fromQueue(const QueueName &name)
 {
     Outcome<QueueDescription> queue = describeQueue(name);

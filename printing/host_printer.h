@@ -24,6 +24,7 @@ namespace tessarin::host {
 enum class PrinterKind {
     Queue,   ///< a queue of the print server: Print submits the document
     PpdFile, ///< a file named by the user: Print writes the ticket
+    Pdf,     ///< no printer: Print writes the pages into a PDF file
     Sample,  ///< the sample printer that comes along: Print writes the ticket
 };
 
@@ -34,6 +35,8 @@ public:
     static Outcome<std::shared_ptr<HostPrinter>> fromPpdFile(const QString &path);
     /// The sample printer, whose PPD lies at `path`; its identifier is "sample".
     static Outcome<std::shared_ptr<HostPrinter>> sample(const QString &path);
+    /// A PDF file in place of a printer; the PPD at `path` offers the paper sizes. Its identifier is "pdf".
+    static Outcome<std::shared_ptr<HostPrinter>> saveAsPdf(const QString &path);
     /// A queue of the print server; its identifier is the queue's name.
     static Outcome<std::shared_ptr<HostPrinter>> fromQueue(const QueueName &name);
 

@@ -54,10 +54,21 @@ QString prepare(const JobRequest &request, Transfer &transfer)
     return transfer.info ? QString() : queueBecause(request, lastCupsError());
 }
 
+/// Standard attributes that say by another name what options of a PPD say.
+constexpr std::array kOverruling = {
+    "media",         "sides",     "print-color-mode",      "output-mode",
+    "print-quality", "number-up", "page-ranges",           "page-set",
+    "landscape",     "copies",    "orientation-requested", "multiple-document-handling",
+    "ColorModel",
+};
+
 QString createJob(const JobRequest &request, Transfer &transfer)
 {
     cups_dest_t *destination = transfer.destination.get();
     CupsOptions options = jobOptionsOf(destination->num_options, destination->options);
+    for (const char *name : kOverruling) {
+        options.remove(QLatin1String(name));
+    }
     options.addAll(request.ticket.toCupsOptions());
     const QByteArray title = request.documents.front().name.toUtf8();
     const ipp_status_t status =
@@ -101,6 +112,9 @@ QString sendDocument(const JobDocument &document, bool last, const JobRequest &r
         }
         if (cupsWriteRequestData(http, block->data(), static_cast<size_t>(count)) != HTTP_STATUS_CONTINUE) {
             return refused();
+        }
+        if (request.sent) {
+            request.sent(count);
         }
     }
     const ipp_status_t status = cupsFinishDestDocument(http, transfer.destination.get(), transfer.info.get());

@@ -69,6 +69,17 @@ QString sidesOf(const QString &duplex)
     return QStringLiteral("one-sided");
 }
 
+/// The PPD's choice for a "sides" attribute; the text itself where it is none.
+QString duplexOf(const QString &sides)
+{
+    for (const char *duplex : {"None", "DuplexNoTumble", "DuplexTumble"}) {
+        if (sidesOf(QLatin1String(duplex)) == sides) {
+            return QLatin1String(duplex);
+        }
+    }
+    return sides;
+}
+
 } // namespace
 
 const QList<JobAttribute> &jobAttributes()
@@ -79,6 +90,12 @@ const QList<JobAttribute> &jobAttributes()
         {.name = kOrientation, .defaultValue = ""}, {.name = kNumberUp, .defaultValue = "1"},
     };
     return attributes;
+}
+
+bool isPossibleAttribute(const char *name, const QString &value)
+{
+    const JobAttribute *attribute = findAttribute(QLatin1String(name));
+    return attribute && checkedAttribute(*attribute, value).has_value();
 }
 
 JobSettings::JobSettings(std::shared_ptr<HostPrinter> printer) : printer_(std::move(printer))
@@ -183,6 +200,33 @@ bool JobSettings::setAttribute(const JobAttribute &attribute, const QString &val
     if (*checked != before) {
         emit changed(name, *checked, origin);
     }
+    return true;
+}
+
+bool JobSettings::setAsWritten(const KeyValue &written)
+{
+    const auto is = [&](const char *key) {
+        return written.key.compare(QLatin1String(key), Qt::CaseInsensitive) == 0;
+    };
+    if (hasOption(written.key) || findAttribute(written.key)) {
+        return set(written.key, written.value, ChangeOrigin::Host);
+    }
+    if (is("media") && hasOption(QStringLiteral("PageSize"))) {
+        return set(QStringLiteral("PageSize"), written.value, ChangeOrigin::Host);
+    }
+    if (is("sides") && hasOption(QStringLiteral("Duplex"))) {
+        return set(QStringLiteral("Duplex"), duplexOf(written.value), ChangeOrigin::Host);
+    }
+    if (is("landscape")) {
+        const bool on = written.value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+        return set(QLatin1String(kOrientation), on ? QStringLiteral("4") : QString(), ChangeOrigin::Host);
+    }
+    // Colour is the printer's own settings' business; an attribute that says otherwise would overrule them.
+    if (is("print-color-mode") || is("ColorModel") || written.key.isEmpty() ||
+        written.value.contains(QChar(u'\0')) || written.key.contains(QChar(u'\0'))) {
+        return false;
+    }
+    ticket_.set(written.key, written.value);
     return true;
 }
 

@@ -26,6 +26,13 @@ enum class ChangeOrigin {
     Host,  ///< the dialog: a preset, a resolved conflict, a default
 };
 
+/// A key and the value that it is to have.
+struct KeyValue {
+    QString key{};
+    QString value{};
+};
+using KeyValues = QList<KeyValue>;
+
 /// A standard attribute of print jobs that the pages offer, under its name in the option lists of libcups.
 struct JobAttribute {
     const char *name;
@@ -37,6 +44,9 @@ struct JobAttribute {
 /// (all, odd, even), "orientation-requested" (3 portrait, 4 landscape, 5 and 6 their reverses; empty: the
 /// document's own) and "number-up" (1, 2, 4, 6, 9 or 16 pages on a side).
 const QList<JobAttribute> &jobAttributes();
+
+/// True when a standard attribute can have this value.
+bool isPossibleAttribute(const char *name, const QString &value);
 
 inline constexpr char kCopies[] = "copies";
 inline constexpr char kCollate[] = "multiple-document-handling";
@@ -77,6 +87,10 @@ public:
     /// Changes a value and tells of it. Answers whether it was taken. Taking what holds already tells nothing, but
     /// puts it into the ticket.
     bool set(const QString &key, const QString &value, ChangeOrigin origin);
+    /// Sets what a person wrote on a command line, where the standard attributes stand for options of the PPD
+    /// ("media" for PageSize, "sides" for Duplex, "landscape" for the orientation) and anything that is neither
+    /// option nor attribute known here goes into the job as it is.
+    bool setAsWritten(const KeyValue &written);
     /// Keeps a hint of the panel, which is no option of the job ("ColorModel": what the pages will look like).
     void setHint(const QString &key, const QString &value);
 

@@ -34,7 +34,7 @@ start_display() {
 start_dialog() {
     export QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
     unset WAYLAND_DISPLAY
-    "$program" --log "$work/panel.log" --ticket "$ticket" "$@" >"$work/out.log" 2>"$work/err.log" &
+    "$program" --sample --log "$work/panel.log" --ticket "$ticket" "$@" >"$work/out.log" 2>"$work/err.log" &
     dialog=$!
     window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$dialog" --name . | tail -n 1) ||
         fail "no window appeared"

@@ -160,7 +160,7 @@ TEST(SummaryProgram, ListsTheSettingsWithoutADisplay)
         QProcess program;
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(TESSARIN_TEST_BIN "/tessarin-print"),
-                      QStringList{u"--log"_s, u"none"_s, u"--language"_s, u"en"_s} + arguments);
+                      QStringList{u"--sample"_s, u"--log"_s, u"none"_s, u"--language"_s, u"en"_s} + arguments);
         EXPECT_TRUE(program.waitForFinished(60000));
         EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
         return program.readAllStandardOutput();

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The head of the dialog: which printer, and what is to be printed.
+// A line of text that gives way where there is no room.
 
-#ifndef TESSARIN_HOST_PRINTER_HEADER_H
-#define TESSARIN_HOST_PRINTER_HEADER_H
+#ifndef TESSARIN_HOST_LINE_LABEL_H
+#define TESSARIN_HOST_LINE_LABEL_H
 
 #include <QLabel>
 #include <QString>
-#include <QWidget>
 
 namespace tessarin::host {
 
@@ -23,22 +22,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-};
-
-/// A picture of a printer, its name in bold, and a line of detail under it.
-class PrinterHeader final : public QWidget {
-    Q_OBJECT
-
-public:
-    PrinterHeader(const QString &name, const QString &detail, QWidget *parent = nullptr);
-
-protected:
-    void changeEvent(QEvent *event) override;
-
-private:
-    void draw();
-
-    QLabel *picture_; ///< owned by this widget
 };
 
 } // namespace tessarin::host

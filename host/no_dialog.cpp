@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "host/no_dialog.h"
+
+#include "host/job_run.h"
+#include "printing/text.h"
+#include "settings/conflicts.h"
+
+#include <QEventLoop>
+#include <QStringList>
+
+namespace tessarin::host {
+
+namespace {
+
+/// The settings that did not come about as they were asked for; empty when all did.
+QString notPossible(const OpenPrinter &printer, const KeyValues &wanted)
+{
+    QStringList texts;
+    for (const KeyValue &one : printer.refused()) {
+        texts << one.key + u'=' + one.value;
+    }
+    for (const KeyValue &one : wanted) {
+        const QString now = printer.settings().value(one.key);
+        if (printer.settings().hasOption(one.key) && now.compare(one.value, Qt::CaseInsensitive) != 0) {
+            texts << TessarinPrint::tr("%1=%2 (with the other settings it is %3)").arg(one.key, one.value, now);
+        }
+    }
+    texts.removeDuplicates();
+    return texts.join(QStringLiteral(", "));
+}
+
+QString conflictText(const HostPrinter &printer)
+{
+    QStringList texts;
+    for (const OptionChoice &one : presentConflicts(printer)) {
+        texts << one.key + u'=' + one.choice;
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+Outcome<std::shared_ptr<OpenPrinter>> openWithValues(const DialogParts &parts)
+{
+    using Result = Outcome<std::shared_ptr<OpenPrinter>>;
+    KeyValues values;
+    if (!parts.preset.isEmpty()) {
+        PresetMenu presets;
+        presets.setPrinter(parts.wanted.identity(), parts.wanted.queue);
+        const Outcome<KeyValues> preset = presets.valuesOf(parts.preset);
+        if (!preset.ok()) {
+            return Result::failed(preset.reason());
+        }
+        values = preset.value();
+    }
+    JobTicket all;
+    for (const KeyValue &one : values + parts.values) {
+        all.set(one.key, one.value);
+    }
+    KeyValues wanted;
+    for (const TicketEntry &entry : all.entries()) {
+        wanted << KeyValue{.key = entry.key, .value = entry.value};
+    }
+    Outcome<std::shared_ptr<HostPrinter>> printer = parts.printer->again(all.toCupsOptions());
+    if (!printer.ok()) {
+        return Result::failed(printer.reason());
+    }
+    auto open = std::make_shared<OpenPrinter>(printer.take(), parts.plugIn, parts.panelProblem, wanted);
+    open->savePanel();
+    if (const QString wrong = notPossible(*open, wanted); !wrong.isEmpty()) {
+        return Result::failed(TessarinPrint::tr("not possible on this printer: %1").arg(wrong));
+    }
+    return open;
+}
+
+RunResult printWithoutDialog(const DialogParts &parts)
+{
+    const Outcome<std::shared_ptr<OpenPrinter>> opened = openWithValues(parts);
+    if (!opened.ok()) {
+        return {.code = ExitCode::Usage, .reason = opened.reason()};
+    }
+    const OpenPrinter &printer = *opened.value();
+    if (const QString conflicts = conflictText(printer.printer()); !conflicts.isEmpty()) {
+        return {.code = ExitCode::Usage,
+                .reason = TessarinPrint::tr("the printer cannot do all of this at once: %1").arg(conflicts)};
+    }
+    RunResult result;
+    QEventLoop loop;
+    std::unique_ptr<Delivery> delivery = parts.makeDelivery(printer.printer());
+    delivery->start(printer.settings().completeTicket(), [&](const QString &failure) {
+        result.reason = failure;
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    result.code = result.reason.isEmpty() ? ExitCode::Printed : ExitCode::Printer;
+    for (const int id : delivery->jobIds()) {
+        result.output +=
+            TessarinPrint::tr("job %1-%2\n").arg(printer.printer().queueName().queue, QString::number(id));
+    }
+    return result;
+}
+
+} // namespace tessarin::host

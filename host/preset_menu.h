@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The presets of the printer that is open, behind one button.
+
+#ifndef TESSARIN_HOST_PRESET_MENU_H
+#define TESSARIN_HOST_PRESET_MENU_H
+
+#include "host/open_printer.h"
+#include "printing/cups_queue.h"
+#include "settings/preset_store.h"
+
+#include <QMenu>
+#include <QPushButton>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace tessarin::host {
+
+/// "Default settings", "Last used", the printer's presets, and what can be done with them: save, rename, delete,
+/// make the settings the user's defaults for the queue.
+class PresetMenu final : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit PresetMenu(QWidget *parent = nullptr);
+
+    /// Opens the presets of a printer. `queue` has an empty name for what is no queue.
+    void setPrinter(const QString &identity, const QueueName &queue);
+    /// Where saving finds the printer with all its settings up to date.
+    void setValuesSource(std::function<std::shared_ptr<OpenPrinter>()> source);
+    /// The values of a preset, or of the last job for lastUsedName(). The reason of a failure names the preset.
+    Outcome<KeyValues> valuesOf(const QString &name) const;
+    QStringList names() const;
+    /// Keeps the settings of now as those last used.
+    void rememberLastUsed();
+
+    static QString lastUsedName();
+
+signals:
+    void applyRequested(const QString &name);
+    void resetRequested();
+    /// Something that the user should know.
+    void told(const QString &text);
+
+private:
+    void fill();
+    void save();
+    void rename(const QString &name);
+    void remove(const QString &name);
+    void makeDefaults();
+    void report(const QString &failure, const QString &success);
+
+    QMenu *menu_; ///< owned by this widget
+    QueueName queue_{};
+    std::optional<PresetStore> store_{};
+    QString problem_{}; ///< why there is no store
+    std::function<std::shared_ptr<OpenPrinter>()> source_{};
+};
+
+} // namespace tessarin::host
+
+#endif

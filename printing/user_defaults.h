@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The user's own default options of a queue, which every application's print dialog starts from.
+
+#ifndef TESSARIN_PRINTING_USER_DEFAULTS_H
+#define TESSARIN_PRINTING_USER_DEFAULTS_H
+
+#include "printing/cups_options.h"
+#include "printing/cups_queue.h"
+#include "printing/outcome.h"
+
+#include <QString>
+
+namespace tessarin::host {
+
+/// The file in which libcups keeps the user's options: "lpoptions" in the folder ".cups" of the user's home.
+QString userOptionsFile();
+
+/// Makes `options` the user's defaults for a queue, over those that are there. What other queues and instances
+/// have, which queue is the default, and the queue's other options stay.
+///
+/// libcups writes the whole file, so that the old one is first copied to the same name with ".backup" behind it.
+/// What was written is read back; where it is not what was asked for, the copy is put back. "copies" is never kept.
+/// Asks the print server, on the calling thread. Answers the file that was written; the reason of a failure names
+/// the server or the file.
+Outcome<QString> makeUserDefaults(const QueueName &queue, const CupsOptions &options);
+
+} // namespace tessarin::host
+
+#endif
