@@ -7,6 +7,7 @@
 
 #include "printing/text.h"
 #include "settings/conflicts.h"
+#include "settings/option_catalogue.h"
 
 #include <QMessageBox>
 

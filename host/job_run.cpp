@@ -12,15 +12,6 @@
 
 namespace tessarin::host {
 
-namespace {
-
-bool isFinal(JobState state)
-{
-    return state == JobState::Done || state == JobState::Cancelled || state == JobState::Aborted;
-}
-
-} // namespace
-
 QString jobStateText(int id, JobState state, const QString &message)
 {
     QString text;

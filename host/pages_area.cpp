@@ -48,7 +48,7 @@ PagesArea::PagesArea(OpenPrinter &printer, QWidget *preview, QWidget *parent)
             makePanelPage());
     addPage(TessarinPrint::tr("Printer Features"), QStringLiteral("featuresPage"), features_);
     addPage(TessarinPrint::tr("Summary"), QStringLiteral("summaryPage"), summary_);
-    list_->setFixedWidth(list_->sizeHintForColumn(0) + 3 * kSpacing);
+    list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth());
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -115,7 +115,8 @@ void PagesArea::addPage(const QString &title, const QString &name, QWidget *page
     page->setObjectName(name);
     stack_->addWidget(page);
     auto *item = new QListWidgetItem(title, list_); // owned by the list
-    item->setSizeHint(QSize(0, list_->fontMetrics().height() + kSpacing));
+    const QFontMetrics metrics = list_->fontMetrics();
+    item->setSizeHint(QSize(metrics.horizontalAdvance(title) + 2 * kSpacing, metrics.height() + kSpacing));
 }
 
 Page PagesArea::page() const

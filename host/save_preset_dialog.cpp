@@ -84,7 +84,7 @@ KeyValues SavePresetDialog::values() const
 void SavePresetDialog::check()
 {
     const bool keepsSomething = general_->isChecked() || panel_->isChecked() || features_->isChecked();
-    const QString wrong = name().isEmpty() ? QString() : PresetStore::nameProblem(name());
+    const QString wrong = name().isEmpty() ? QString() : presetNameProblem(name());
     problem_->setText(!wrong.isEmpty()  ? wrong
                       : !keepsSomething ? TessarinPrint::tr("Choose what the preset keeps.")
                       : replaces()      ? TessarinPrint::tr("This replaces the preset of the same name.")

@@ -21,6 +21,7 @@
 #include <utility>
 
 class QPrintDialog;
+class QWidget;
 
 namespace tessarin {
 

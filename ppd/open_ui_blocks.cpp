@@ -14,6 +14,8 @@
 #include <cstring>
 #include <new>
 #include <optional>
+#include <string>
+#include <utility>
 
 namespace tessarin {
 
@@ -162,7 +164,10 @@ void OpenUIBlockReader::readPopUpBlock(std::FILE *file, int row)
     Line line{};
     while (readLine(file, line) && !contains(line.data(), "*CloseUI")) {
         if (contains(line.data(), wanted)) {
-            defaultKey = firstWord(textAfterDefault(line.data(), wanted));
+            // A line without a word keeps the key of an earlier one, as a number that is none keeps its option's.
+            if (std::string word = firstWord(textAfterDefault(line.data(), wanted)); !word.empty()) {
+                defaultKey = std::move(word);
+            }
         }
         const std::optional<ChoiceLine> choice = parseChoiceLine(line.data(), pop.keyword);
         if (!choice || full) {

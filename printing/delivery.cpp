@@ -56,13 +56,34 @@ void QueueDelivery::start(const JobTicket &ticket, DeliveryFinished finished)
                 }
                 documents_.erase(documents_.begin(),
                                  documents_.begin() + static_cast<std::ptrdiff_t>(sent.documents));
-                const bool partly = !sent.failure.isEmpty() && !printed_.isEmpty();
-                finished(partly ? TessarinPrint::tr("%1 (printed already: %2)")
-                                      .arg(sent.failure, printed_.join(QStringLiteral(", ")))
-                                : sent.failure);
+                finished(withDocuments(sent.failure));
             },
             Qt::QueuedConnection);
     });
+}
+
+QStringList QueueDelivery::unsent() const
+{
+    QStringList names;
+    for (const JobDocument &document : documents_) {
+        names << document.name;
+    }
+    return names;
+}
+
+QString QueueDelivery::withDocuments(const QString &failure) const
+{
+    if (failure.isEmpty() || printed_.isEmpty()) {
+        return failure;
+    }
+    return TessarinPrint::tr("%1\nPrinted already: %2\nNot printed: %3")
+        .arg(failure, printed_.join(QStringLiteral(", ")), unsent().join(QStringLiteral(", ")));
+}
+
+QString QueueDelivery::titleOf(const std::vector<JobDocument> &documents) const
+{
+    const bool named = separate_ && !title_.isEmpty() && !documents.empty();
+    return named ? title_ + QStringLiteral(" – ") + documents.front().name : title_;
 }
 
 QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::vector<JobDocument> &documents)
@@ -86,8 +107,10 @@ QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::v
     do {
         const auto first = documents.begin() + static_cast<std::ptrdiff_t>(sent.documents);
         const auto count = static_cast<std::ptrdiff_t>(std::min(perJob, documents.size() - sent.documents));
-        const Outcome<int> job = submitJob(
-            {.queue = queue_, .documents = {first, first + count}, .ticket = ticket, .sent = observer}, cancelled_);
+        JobRequest request{
+            .queue = queue_, .documents = {first, first + count}, .ticket = ticket, .sent = observer};
+        request.title = titleOf(request.documents);
+        const Outcome<int> job = submitJob(request, cancelled_);
         if (!job.ok()) {
             sent.failure = job.reason();
             return sent;

@@ -87,6 +87,11 @@ public:
     void cancel() override;
     /// Makes each document a job of its own. To be called before the first start.
     void setSeparateJobs(bool separate) { separate_ = separate; }
+    /// The jobs' title; empty: each has its first document's name. Separate jobs have their document's name behind
+    /// the title. To be called before the first start.
+    void setTitle(const QString &title) { title_ = title; }
+    /// The names of the documents that are still to be sent.
+    QStringList unsent() const;
     /// The number of the last job that was sent; 0: none yet.
     int jobId() const { return jobIds_.isEmpty() ? 0 : jobIds_.last(); }
     QList<int> jobIds() const override { return jobIds_; }
@@ -99,12 +104,15 @@ private:
         QString failure{};
     };
 
+    QString withDocuments(const QString &failure) const;
+    QString titleOf(const std::vector<JobDocument> &documents) const;
     Sent sendAll(const JobTicket &ticket, const std::vector<JobDocument> &documents);
 
     QueueName queue_;
     std::vector<JobDocument> documents_; ///< those that are still to be sent
     QString ticketFile_;
     bool separate_ = false;
+    QString title_{};
     std::atomic<bool> cancelled_ = false;
     QList<int> jobIds_{};
     QStringList printed_{}; ///< names of documents that became jobs

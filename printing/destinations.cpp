@@ -3,10 +3,11 @@
 
 #include "printing/destinations.h"
 
+#include "printing/background_work.h"
 #include "printing/cups_connection.h"
+#include "printing/destination_list.h"
+#include "printing/state_reasons.h"
 #include "printing/text.h"
-
-#include <QtConcurrentRun>
 
 namespace tessarin::host {
 
@@ -14,16 +15,6 @@ namespace {
 
 constexpr int kStateProcessing = 4; // printer-state as IPP numbers it
 constexpr int kStateStopped = 5;
-
-struct DestinationList {
-    int count = 0;
-    cups_dest_t *list = nullptr;
-
-    DestinationList() = default;
-    ~DestinationList() { cupsFreeDests(count, list); }
-    DestinationList(const DestinationList &) = delete;
-    DestinationList &operator=(const DestinationList &) = delete;
-};
 
 QString optionText(const cups_dest_t &destination, const char *name)
 {
@@ -52,6 +43,17 @@ Destination described(const cups_dest_t &from)
     return destination;
 }
 
+/// Why the server's queues cannot be told; empty when it has none. libcups' list is empty for both.
+QString whyNone(http_t *http)
+{
+    ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "printer-name");
+    ippDelete(cupsDoRequest(http, request, "/")); // frees the request
+    const ipp_status_t status = cupsLastError();
+    const bool answered = status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND;
+    return answered ? QString() : lastCupsError();
+}
+
 } // namespace
 
 QString destinationDetail(const Destination &destination)
@@ -68,9 +70,9 @@ QString destinationDetail(const Destination &destination)
         state = TessarinPrint::tr("stopped");
         break;
     }
-    if (!destination.reasons.isEmpty()) {
+    if (const QString reasons = stateReasonsText(destination.reasons); !reasons.isEmpty()) {
         //: %1 is a printer's state, %2 lists the reasons
-        state = TessarinPrint::tr("%1 (%2)").arg(state, destination.reasons.join(QStringLiteral(", ")));
+        state = TessarinPrint::tr("%1 (%2)").arg(state, reasons);
     }
     QStringList parts;
     for (const QString &part :
@@ -88,25 +90,22 @@ QString destinationDetail(const Destination &destination)
 Outcome<QList<Destination>> listDestinations(const std::atomic<bool> &cancelled)
 {
     using Result = Outcome<QList<Destination>>;
-    const Outcome<CupsConnection> connection = connectToPrintServer();
+    const Outcome<CupsConnection> connection = connectToPrintServer({.cancelled = &cancelled});
     if (!connection.ok()) {
         return Result::failed(connection.reason());
     }
+    http_t *http = connection.value().get();
     QList<Destination> destinations;
-    if (cancelled) {
-        return destinations;
+    for (const cups_dest_t &destination : DestinationList(http)) {
+        destinations << described(destination);
     }
-    DestinationList all;
-    all.count = cupsGetDests2(connection.value().get(), &all.list);
-    if (all.count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE &&
-        cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) {
-        return Result::failed(
-            TessarinPrint::tr("the print server does not list its printers: %1").arg(lastCupsError()));
+    if (destinations.isEmpty() && !cancelled) {
+        if (const QString why = whyNone(http); !why.isEmpty()) {
+            return Result::failed(
+                TessarinPrint::tr("print server %1: it does not list its queues: %2").arg(printServerName(), why));
+        }
     }
-    for (int i = 0; i < all.count; ++i) {
-        destinations << described(all.list[i]);
-    }
-    return destinations;
+    return cancelled ? Result::failed(TessarinPrint::tr("cancelled")) : destinations;
 }
 
 DestinationFinder::~DestinationFinder()
@@ -117,28 +116,24 @@ DestinationFinder::~DestinationFinder()
 void DestinationFinder::start()
 {
     cancel();
-    auto cancelled = std::make_shared<std::atomic<bool>>(false);
-    cancelled_ = cancelled;
-    QtConcurrent::run([cancelled] {
-        return listDestinations(*cancelled);
-    }).then(this, [this, cancelled](const Outcome<QList<Destination>> &result) {
-        if (*cancelled) {
-            return;
-        }
-        cancelled_.reset();
-        if (result.ok()) {
-            emit found(result.value());
-        } else {
-            emit failed(result.reason());
-        }
+    work_ = BackgroundWork::start(this, [this](BackgroundWork &work) {
+        const Outcome<QList<Destination>> result = listDestinations(work.abandoned());
+        work.handOver([this, result] {
+            work_.reset();
+            if (result.ok()) {
+                emit found(result.value());
+            } else {
+                emit failed(result.reason());
+            }
+        });
     });
 }
 
 void DestinationFinder::cancel()
 {
-    if (cancelled_) {
-        *cancelled_ = true;
-        cancelled_.reset();
+    if (work_) {
+        work_->abandon();
+        work_.reset();
     }
 }
 

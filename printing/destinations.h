@@ -19,6 +19,8 @@
 
 namespace tessarin::host {
 
+class BackgroundWork;
+
 enum class QueueState { Idle, Printing, Stopped };
 
 /// A queue, or one of the user's instances of it, as the server described it last.
@@ -37,8 +39,8 @@ struct Destination {
 QString destinationDetail(const Destination &destination);
 
 /// Asks the print server for its queues, in its order, on the calling thread. A server that cannot be reached or
-/// does not answer is given up after some seconds; `cancelled` is looked at between the steps. The reason of a
-/// failure names the server.
+/// does not answer is given up after some seconds, or soon after `cancelled` becomes true. A server without queues
+/// is an empty list. The reason of a failure names the server.
 Outcome<QList<Destination>> listDestinations(const std::atomic<bool> &cancelled);
 
 /// Asks for the queues in the background. Of several questions only the last is answered, by exactly one signal,
@@ -58,7 +60,7 @@ signals:
     void failed(const QString &reason);
 
 private:
-    std::shared_ptr<std::atomic<bool>> cancelled_{}; ///< of the question that runs; null: none does
+    std::shared_ptr<BackgroundWork> work_{}; ///< the question that runs; null: none does
 };
 
 } // namespace tessarin::host

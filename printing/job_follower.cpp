@@ -3,174 +3,134 @@
 
 #include "printing/job_follower.h"
 
+#include "printing/background_work.h"
 #include "printing/cups_connection.h"
 #include "printing/text.h"
 
-#include <QtConcurrentRun>
-
-#include <array>
-#include <initializer_list>
-#include <vector>
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <utility>
 
 namespace tessarin::host {
 
 namespace {
 
-constexpr int kAskAgainMilliseconds = 1000;
-constexpr std::size_t kUriBytes = 1024; // as libcups' own URI buffers (HTTP_MAX_URI)
+constexpr std::chrono::milliseconds kAskAgain = std::chrono::seconds(1);
+constexpr int kConnectionsKept = 8; // a server takes only so many of one person (by default 100)
 
-struct ResponseFreer {
-    void operator()(ipp_t *response) const { ippDelete(response); }
+/// One job's following, on the thread that does it.
+class Pursuit {
+public:
+    using Tell = std::function<void(const JobReport &report)>;
+
+    Pursuit(BackgroundWork &work, QueueName queue, int jobId, Tell tell)
+        : work_(work), queue_(std::move(queue)), jobId_(jobId), tell_(std::move(tell))
+    {
+        ++running_;
+    }
+    ~Pursuit() { --running_; }
+    Pursuit(const Pursuit &) = delete;
+    Pursuit &operator=(const Pursuit &) = delete;
+
+    void run()
+    {
+        while (!work_.abandoned()) {
+            report(askOnce());
+            if (last_ && isFinal(last_->state)) {
+                return;
+            }
+            if (running_ > kConnectionsKept) {
+                connection_.reset();
+            }
+            work_.rest(kAskAgain, !cancelSent_);
+        }
+    }
+
+private:
+    JobReport askOnce()
+    {
+        if (!connection_) {
+            Outcome<CupsConnection> connection = connectToPrintServer({.cancelled = &work_.abandoned()});
+            if (!connection.ok()) {
+                return noAnswer(connection.reason());
+            }
+            connection_ = connection.take();
+        }
+        const bool cancels = work_.isAsked() && !cancelSent_;
+        const QString refused = cancels ? cancelJobOnServer(connection_.get(), queue_, jobId_) : QString();
+        const Outcome<JobReport> answer = askForJob(connection_.get(), queue_, jobId_);
+        if (!answer.ok()) {
+            connection_.reset(); // a cancelling that got no answer is tried again on the next one
+            return noAnswer(answer.reason());
+        }
+        cancelSent_ = cancelSent_ || cancels;
+        if (cancels) {
+            refused_ = refused.isEmpty()
+                           ? QString()
+                           : TessarinPrint::tr("the print server does not cancel it: %1").arg(refused);
+        }
+        JobReport result = answer.value();
+        if (!refused_.isEmpty() && !isFinal(result.state)) {
+            result.message = refused_;
+        }
+        return result;
+    }
+
+    /// The state that was known last, with what is wrong now.
+    JobReport noAnswer(const QString &why) const
+    {
+        return {.state = last_ ? last_->state : JobState::Pending, .message = why};
+    }
+
+    void report(const JobReport &report)
+    {
+        if (!last_ || report.state != last_->state || report.message != last_->message) {
+            last_ = report;
+            tell_(report);
+        }
+    }
+
+    static inline std::atomic<int> running_ = 0; ///< pursuits in this program
+
+    BackgroundWork &work_;
+    QueueName queue_;
+    int jobId_;
+    Tell tell_;
+    CupsConnection connection_{};
+    std::optional<JobReport> last_{};
+    bool cancelSent_ = false;
+    QString refused_{}; ///< why the server does not cancel the job; empty: it was not asked, or did
 };
-using Response = std::unique_ptr<ipp_t, ResponseFreer>;
-
-/// A text attribute of a response; empty when it is not there.
-QString textOf(ipp_t *response, const char *name)
-{
-    ipp_attribute_t *attribute = ippFindAttribute(response, name, IPP_TAG_ZERO);
-    const char *text = attribute ? ippGetString(attribute, 0, nullptr) : nullptr;
-    return text ? QString::fromUtf8(text) : QString();
-}
-
-JobState stateOf(int state)
-{
-    switch (state) {
-    case IPP_JSTATE_HELD:
-        return JobState::Held;
-    case IPP_JSTATE_PROCESSING:
-        return JobState::Printing;
-    case IPP_JSTATE_STOPPED:
-        return JobState::Stopped;
-    case IPP_JSTATE_CANCELED:
-        return JobState::Cancelled;
-    case IPP_JSTATE_ABORTED:
-        return JobState::Aborted;
-    case IPP_JSTATE_COMPLETED:
-        return JobState::Done;
-    default:
-        return JobState::Pending;
-    }
-}
-
-Response askServer(http_t *http, ipp_op_t operation, const char *uri, const char *uriName,
-                   std::initializer_list<const char *> wanted)
-{
-    ipp_t *request = ippNewRequest(operation);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, uriName, nullptr, uri);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const std::vector<const char *> names(wanted);
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(names.size()), nullptr, names.data());
-    return Response(cupsDoRequest(http, request, "/")); // frees the request
-}
-
-/// Why a queue that is stopped does not print; empty when it is not stopped or does not say.
-QString whyStopped(http_t *http, const QString &queue)
-{
-    std::array<char, kUriBytes> uri = {};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", queue.toUtf8().constData());
-    const Response response = askServer(http, IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data(), "printer-uri",
-                                        {"printer-state", "printer-state-message"});
-    ipp_attribute_t *state = response ? ippFindAttribute(response.get(), "printer-state", IPP_TAG_ENUM) : nullptr;
-    if (!state || ippGetInteger(state, 0) != IPP_PSTATE_STOPPED) {
-        return {};
-    }
-    const QString message = textOf(response.get(), "printer-state-message");
-    return message.isEmpty() ? TessarinPrint::tr("the printer is stopped")
-                             : TessarinPrint::tr("the printer is stopped: %1").arg(message);
-}
 
 } // namespace
 
-bool isFinal(JobState state)
+JobFollower::~JobFollower()
 {
-    return state == JobState::Done || state == JobState::Cancelled || state == JobState::Aborted;
-}
-
-Outcome<JobReport> askForJob(const QueueName &queue, int jobId)
-{
-    using Result = Outcome<JobReport>;
-    const Outcome<CupsConnection> connection = connectToPrintServer();
-    if (!connection.ok()) {
-        return Result::failed(connection.reason());
+    if (work_) {
+        work_->abandon();
     }
-    http_t *http = connection.value().get();
-    std::array<char, kUriBytes> uri = {};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/jobs/%d", jobId);
-    const Response response = askServer(http, IPP_OP_GET_JOB_ATTRIBUTES, uri.data(), "job-uri",
-                                        {"job-state", "job-state-reasons", "job-printer-state-message"});
-    ipp_attribute_t *state = response ? ippFindAttribute(response.get(), "job-state", IPP_TAG_ENUM) : nullptr;
-    if (!state) {
-        return Result::failed(TessarinPrint::tr("job %1: %2").arg(QString::number(jobId), lastCupsError()));
-    }
-    JobReport report{.state = stateOf(ippGetInteger(state, 0)),
-                     .message = textOf(response.get(), "job-printer-state-message")};
-    if (report.state == JobState::Pending || report.state == JobState::Stopped) {
-        if (const QString why = whyStopped(http, queue.queue); !why.isEmpty()) {
-            report.message = why;
-        }
-    }
-    return report;
-}
-
-QString cancelJobOnServer(const QueueName &queue, int jobId)
-{
-    const Outcome<CupsConnection> connection = connectToPrintServer();
-    if (!connection.ok()) {
-        return connection.reason();
-    }
-    const ipp_status_t status =
-        cupsCancelJob2(connection.value().get(), queue.queue.toUtf8().constData(), jobId, 0);
-    return status > IPP_STATUS_OK_EVENTS_COMPLETE ? lastCupsError() : QString();
-}
-
-JobFollower::JobFollower()
-{
-    timer_.setSingleShot(true);
-    timer_.setInterval(kAskAgainMilliseconds);
-    connect(&timer_, &QTimer::timeout, this, &JobFollower::ask);
 }
 
 void JobFollower::start(const QueueName &queue, int jobId)
 {
-    queue_ = queue;
-    jobId_ = jobId;
-    ask();
-}
-
-void JobFollower::ask()
-{
-    QtConcurrent::run([queue = queue_, id = jobId_] {
-        return askForJob(queue, id);
-    }).then(this, [this](const Outcome<JobReport> &report) {
-        tell(report.ok() ? report.value() : JobReport{.state = last_.state, .message = report.reason()});
-        if (!isFinal(last_.state)) {
-            timer_.start();
-        }
-    });
-}
-
-void JobFollower::tell(const JobReport &report)
-{
-    if (told_ && (isFinal(last_.state) || (report.state == last_.state && report.message == last_.message))) {
-        return;
+    if (work_) {
+        work_->abandon();
     }
-    told_ = true;
-    last_ = report;
-    emit stateChanged(report.state, report.message);
+    work_ = BackgroundWork::start(this, [this, queue, jobId](BackgroundWork &work) {
+        const auto tell = [this, &work](const JobReport &report) {
+            work.handOver([this, report] { emit stateChanged(report.state, report.message); });
+        };
+        Pursuit(work, queue, jobId, tell).run();
+    });
 }
 
 void JobFollower::cancelJob()
 {
-    QtConcurrent::run([queue = queue_, id = jobId_] {
-        return cancelJobOnServer(queue, id);
-    }).then(this, [this](const QString &failure) {
-        if (!failure.isEmpty()) {
-            tell({.state = last_.state, .message = failure});
-        }
-    });
+    if (work_) {
+        work_->ask();
+    }
 }
 
 } // namespace tessarin::host

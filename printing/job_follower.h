@@ -7,31 +7,16 @@
 #define TESSARIN_PRINTING_JOB_FOLLOWER_H
 
 #include "printing/cups_queue.h"
-#include "printing/outcome.h"
+#include "printing/job_report.h"
 
 #include <QObject>
 #include <QString>
-#include <QTimer>
 
 #include <memory>
 
 namespace tessarin::host {
 
-enum class JobState { Pending, Held, Printing, Stopped, Done, Cancelled, Aborted };
-
-/// True for the states that a job does not leave.
-bool isFinal(JobState state);
-
-/// A job as the server described it.
-struct JobReport {
-    JobState state = JobState::Pending;
-    QString message{}; ///< why it waits or failed, or what it is doing; may be empty
-};
-
-/// Asks the server for a job, on the calling thread, with the deadlines of connectToPrintServer().
-Outcome<JobReport> askForJob(const QueueName &queue, int jobId);
-/// Cancels a job, on the calling thread. Answers what went wrong; an empty text when nothing did.
-QString cancelJobOnServer(const QueueName &queue, int jobId);
+class BackgroundWork;
 
 /// Asks for a job about once a second, in the background, until it has ended. A server that goes away is told with
 /// the state that was known last, and asked again until it answers. May be destroyed at any time, without waiting;
@@ -40,10 +25,13 @@ class JobFollower final : public QObject {
     Q_OBJECT
 
 public:
-    JobFollower();
+    JobFollower() = default;
+    ~JobFollower() override;
 
+    /// Follows a job, and no longer the one before.
     void start(const QueueName &queue, int jobId);
-    /// Takes the job back from the server; its end is told as any other. A failure is told as a message.
+    /// Takes the job back from the server, as soon as that answers; the job's end is told as any other. A server
+    /// that refuses is told as a message.
     void cancelJob();
 
 signals:
@@ -51,14 +39,7 @@ signals:
     void stateChanged(tessarin::host::JobState state, const QString &message);
 
 private:
-    void ask();
-    void tell(const JobReport &report);
-
-    QueueName queue_{};
-    int jobId_ = 0;
-    JobReport last_{};
-    bool told_ = false;
-    QTimer timer_{};
+    std::shared_ptr<BackgroundWork> work_{}; ///< null: no job is followed
 };
 
 } // namespace tessarin::host

@@ -16,6 +16,7 @@ namespace tessarin::host {
 namespace {
 
 constexpr std::size_t kBlock = 65536;
+constexpr int kTakeBackMilliseconds = 5000; // somebody may be waiting for the dialog to go
 
 struct InfoFreer {
     void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
@@ -37,9 +38,9 @@ QString queueBecause(const JobRequest &request, const QString &why)
 
 /// Connects and looks the queue up afresh: the server may have restarted since the dialog opened. Answers what went
 /// wrong; an empty text when nothing did.
-QString prepare(const JobRequest &request, Transfer &transfer)
+QString prepare(const JobRequest &request, Transfer &transfer, const std::atomic<bool> &cancelled)
 {
-    Outcome<CupsConnection> connection = connectToPrintServer();
+    Outcome<CupsConnection> connection = connectToPrintServer({.cancelled = &cancelled});
     if (!connection.ok()) {
         return connection.reason();
     }
@@ -70,10 +71,13 @@ QString createJob(const JobRequest &request, Transfer &transfer)
         options.remove(QLatin1String(name));
     }
     options.addAll(request.ticket.toCupsOptions());
-    const QByteArray title = request.documents.front().name.toUtf8();
+    const QByteArray title = (request.title.isEmpty() ? request.documents.front().name : request.title).toUtf8();
     const ipp_status_t status =
         cupsCreateDestJob(transfer.connection.get(), destination, transfer.info.get(), &transfer.jobId,
                           title.constData(), options.count(), options.data());
+    if (status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS) {
+        return queueBecause(request, TessarinPrint::tr("it is not accepting jobs"));
+    }
     if (status > IPP_STATUS_OK_EVENTS_COMPLETE || transfer.jobId <= 0) {
         return queueBecause(request, TessarinPrint::tr("it does not take the job: %1").arg(lastCupsError()));
     }
@@ -125,7 +129,7 @@ QString sendDocument(const JobDocument &document, bool last, const JobRequest &r
 /// a sentence to add to the failure when the job stays.
 QString takeBack(const JobRequest &request, int jobId)
 {
-    const Outcome<CupsConnection> connection = connectToPrintServer();
+    const Outcome<CupsConnection> connection = connectToPrintServer({.answerMilliseconds = kTakeBackMilliseconds});
     QString why = connection.reason();
     if (connection.ok()) {
         const ipp_status_t status =
@@ -139,7 +143,7 @@ QString takeBack(const JobRequest &request, int jobId)
 
 QString send(const JobRequest &request, Transfer &transfer, const std::atomic<bool> &cancelled)
 {
-    if (QString why = prepare(request, transfer); !why.isEmpty()) {
+    if (QString why = prepare(request, transfer, cancelled); !why.isEmpty()) {
         return why;
     }
     if (cancelled) {
@@ -168,6 +172,9 @@ Outcome<int> submitJob(const JobRequest &request, const std::atomic<bool> &cance
     QString why = send(request, transfer, cancelled);
     if (why.isEmpty()) {
         return transfer.jobId;
+    }
+    if (cancelled) {
+        why = TessarinPrint::tr("cancelled"); // whatever the call said that was cut short by it
     }
     if (transfer.jobId > 0) {
         why += takeBack(request, transfer.jobId);

@@ -24,15 +24,17 @@ struct JobRequest {
     QueueName queue{};
     std::vector<JobDocument> documents{}; ///< at least one; they become one job in this order
     JobTicket ticket{};
-    std::function<void(qint64 bytes)>
-        sent{}; ///< hears of each piece that went out, on the sending thread; or empty
+    QString title{}; ///< of the job; empty: the first document's name
+    /// Hears of each piece that went out, on the sending thread; or empty.
+    std::function<void(qint64 bytes)> sent{};
 };
 
 /// Sends a job and waits until the print server has taken all of it. The job's options are the queue's and the
 /// user's saved ones with the ticket's over them, each sent explicitly. Saved attributes that would overrule
 /// options of the ticket by another name (a saved colour mode, paper or side) are left out where the ticket does
 /// not set them itself. The result is the job's number. When it fails, or `cancelled` becomes true on the way, the
-/// begun job is taken back; the reason names queue or document.
+/// begun job is taken back; the reason names queue or document. A stopped queue takes the job, which waits there;
+/// one that rejects jobs is a failure.
 Outcome<int> submitJob(const JobRequest &request, const std::atomic<bool> &cancelled);
 
 } // namespace tessarin::host

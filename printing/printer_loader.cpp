@@ -3,7 +3,7 @@
 
 #include "printing/printer_loader.h"
 
-#include <QtConcurrentRun>
+#include "printing/background_work.h"
 
 namespace tessarin::host {
 
@@ -15,28 +15,24 @@ PrinterLoader::~PrinterLoader()
 void PrinterLoader::start(const QueueName &queue)
 {
     cancel();
-    auto cancelled = std::make_shared<std::atomic<bool>>(false);
-    cancelled_ = cancelled;
-    QtConcurrent::run([queue] {
-        return HostPrinter::fromQueue(queue);
-    }).then(this, [this, cancelled](const Outcome<std::shared_ptr<HostPrinter>> &result) {
-        if (*cancelled) {
-            return;
-        }
-        cancelled_.reset();
-        if (result.ok()) {
-            emit loaded(result.value());
-        } else {
-            emit failed(result.reason());
-        }
+    work_ = BackgroundWork::start(this, [this, queue](BackgroundWork &work) {
+        const Outcome<std::shared_ptr<HostPrinter>> result = HostPrinter::fromQueue(queue);
+        work.handOver([this, result] {
+            work_.reset();
+            if (result.ok()) {
+                emit loaded(result.value());
+            } else {
+                emit failed(result.reason());
+            }
+        });
     });
 }
 
 void PrinterLoader::cancel()
 {
-    if (cancelled_) {
-        *cancelled_ = true;
-        cancelled_.reset();
+    if (work_) {
+        work_->abandon();
+        work_.reset();
     }
 }
 

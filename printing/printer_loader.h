@@ -11,10 +11,11 @@
 #include <QObject>
 #include <QString>
 
-#include <atomic>
 #include <memory>
 
 namespace tessarin::host {
+
+class BackgroundWork;
 
 /// Opens a queue in the background. Of several calls only the last is answered, by exactly one signal, and none
 /// after cancel(). May be destroyed at any time, without waiting.
@@ -33,7 +34,7 @@ signals:
     void failed(const QString &reason);
 
 private:
-    std::shared_ptr<std::atomic<bool>> cancelled_{}; ///< of the call that runs; null: none does
+    std::shared_ptr<BackgroundWork> work_{}; ///< the call that runs; null: none does
 };
 
 } // namespace tessarin::host

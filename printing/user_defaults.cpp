@@ -4,62 +4,152 @@
 #include "printing/user_defaults.h"
 
 #include "printing/cups_connection.h"
+#include "printing/destination_list.h"
+#include "printing/options_file.h"
 #include "printing/text.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QSaveFile>
 #include <QStringList>
+
+#include <vector>
 
 namespace tessarin::host {
 
 namespace {
 
-struct DestinationList {
-    int count = 0;
-    cups_dest_t *list = nullptr;
+using Saved = QHash<QString, QString>; ///< options by lower-case name
 
-    explicit DestinationList(http_t *http) { count = cupsGetDests2(http, &list); }
-    ~DestinationList() { cupsFreeDests(count, list); }
-    DestinationList(const DestinationList &) = delete;
-    DestinationList &operator=(const DestinationList &) = delete;
+/// A file as it was before.
+struct Snapshot {
+    QString path{};
+    bool existed = false;
+    QByteArray content{};
 
-    cups_dest_t *find(const QueueName &queue) const
+    static Snapshot of(const QString &path)
     {
-        const QByteArray instance = queue.instance.toUtf8();
-        return cupsGetDest(queue.queue.toUtf8().constData(),
-                           queue.instance.isEmpty() ? nullptr : instance.constData(), count, list);
+        QFile file(path);
+        Snapshot snapshot{.path = path, .existed = file.open(QIODevice::ReadOnly)};
+        snapshot.content = snapshot.existed ? file.readAll() : QByteArray();
+        return snapshot;
+    }
+    bool isChanged() const
+    {
+        const Snapshot now = of(path);
+        return now.existed != existed || now.content != content;
     }
 };
 
-bool isKept(const cups_option_t &option)
+/// Writes a file whole or not at all. Answers what went wrong; an empty text when nothing did.
+QString replaceFile(const QString &path, const QByteArray &content)
 {
-    return qstrcmp(option.name, "copies") != 0;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
+        return TessarinPrint::tr("file %1: %2").arg(path, file.errorString());
+    }
+    return {};
 }
 
-/// The names of options that a fresh look at the queue does not show as they were asked for.
-QStringList missingFrom(const DestinationList &destinations, const QueueName &queue, const CupsOptions &options)
+/// Puts a file back as it was. Answers a sentence to add to a failure when that fails.
+QString putBack(const Snapshot &snapshot)
 {
-    QStringList missing;
-    const cups_dest_t *destination = destinations.find(queue);
+    if (!snapshot.isChanged()) {
+        return {};
+    }
+    if (!snapshot.existed) {
+        return QFile::remove(snapshot.path) ? QString() : TessarinPrint::tr("; it could not be removed again");
+    }
+    return replaceFile(snapshot.path, snapshot.content).isEmpty()
+               ? QString()
+               : TessarinPrint::tr("; the earlier ones are in %1").arg(snapshot.path + QStringLiteral(".backup"));
+}
+
+bool isKept(const QString &name, const QString &value)
+{
+    return name.compare(QLatin1String("copies"), Qt::CaseInsensitive) != 0 && !value.isEmpty();
+}
+
+/// The options to keep. `refused`: takes the names of those that the file cannot hold.
+Saved keptOptions(const CupsOptions &options, QStringList &refused)
+{
+    Saved kept;
     for (int i = 0; i < options.count(); ++i) {
-        const cups_option_t &option = options.data()[i];
-        const char *now =
-            destination ? cupsGetOption(option.name, destination->num_options, destination->options) : nullptr;
-        if (isKept(option) && qstrcmp(now, option.value) != 0) {
-            missing << QString::fromUtf8(option.name);
+        const QString name = QString::fromUtf8(options.data()[i].name);
+        const QString value = QString::fromUtf8(options.data()[i].value);
+        if (!isKept(name, value)) {
+            continue;
+        }
+        kept.insert(name.toLower(), value);
+        if (!survivesOptionsFile(name, value)) {
+            refused << name;
         }
     }
-    return missing;
+    return kept;
 }
 
-/// Copies a file over another. Answers what went wrong; an empty text when nothing did.
-QString copyOver(const QString &from, const QString &to)
+/// What is saved for each destination, without what merely describes it.
+QHash<QString, Saved> savedOptions(const DestinationList &list)
 {
-    QFile source(from);
-    if (QFile::exists(to) && !QFile::remove(to)) {
-        return TessarinPrint::tr("file %1: it cannot be replaced").arg(to);
+    QHash<QString, Saved> all;
+    for (const cups_dest_t &destination : list) {
+        const QueueName name{.queue = QString::fromUtf8(destination.name),
+                             .instance = QString::fromUtf8(destination.instance)};
+        const CupsOptions options = jobOptionsOf(destination.num_options, destination.options);
+        Saved &saved = all[name.text().toLower()];
+        for (int i = 0; i < options.count(); ++i) {
+            saved.insert(QString::fromUtf8(options.data()[i].name).toLower(),
+                         QString::fromUtf8(options.data()[i].value));
+        }
     }
-    return source.copy(to) ? QString() : TessarinPrint::tr("file %1: %2").arg(to, source.errorString());
+    return all;
+}
+
+/// Compares what libcups reads now with what it shall be. Answers what is wrong; an empty text when nothing is.
+QString whatIsWrong(const QHash<QString, Saved> &expected, const QHash<QString, Saved> &now)
+{
+    for (auto queue = expected.begin(); queue != expected.end(); ++queue) {
+        const Saved &saved = now.value(queue.key());
+        QStringList wrong;
+        for (auto option = queue->begin(); option != queue->end(); ++option) {
+            // libcups does not write what differs from the server's own default in nothing but its case.
+            if (saved.value(option.key()).compare(*option, Qt::CaseInsensitive) != 0) {
+                wrong << option.key();
+            }
+        }
+        if (!wrong.isEmpty()) {
+            wrong.sort();
+            return TessarinPrint::tr("these options of %1 could not be kept: %2")
+                .arg(queue.key(), wrong.join(QStringLiteral(", ")));
+        }
+    }
+    return {};
+}
+
+/// Lets libcups write the options and mends what it does to the rest of the file. Answers the file that it wrote.
+Outcome<QString> writeThroughLibcups(http_t *http, const DestinationList &list, const QueueName &queue,
+                                     const std::vector<Snapshot> &snapshots)
+{
+    using Result = Outcome<QString>;
+    for (cups_dest_t &destination : list) {
+        destination.is_default = 0; // or the server's default would become the user's; the merging keeps the user's
+    }
+    const QString usual = snapshots.front().path;
+    if (cupsSetDests2(http, list.count(), list.begin()) != 0) {
+        return Result::failed(TessarinPrint::tr("file %1: it cannot be written: %2").arg(usual, lastCupsError()));
+    }
+    for (const Snapshot &snapshot : snapshots) {
+        if (!snapshot.isChanged()) {
+            continue;
+        }
+        const QByteArray merged = mergedOptionsFile(snapshot.content, Snapshot::of(snapshot.path).content, queue);
+        if (const QString failure = replaceFile(snapshot.path, merged); !failure.isEmpty()) {
+            return Result::failed(failure);
+        }
+        return snapshot.path;
+    }
+    return usual; // it said the same before
 }
 
 } // namespace
@@ -72,46 +162,56 @@ QString userOptionsFile()
 Outcome<QString> makeUserDefaults(const QueueName &queue, const CupsOptions &options)
 {
     using Result = Outcome<QString>;
+    QStringList refused;
+    const Saved kept = keptOptions(options, refused);
+    if (!refused.isEmpty()) {
+        return Result::failed(
+            TessarinPrint::tr("queue %1: the values of these options cannot be kept as defaults: %2")
+                .arg(queue.text(), refused.join(QStringLiteral(", "))));
+    }
     const Outcome<CupsConnection> connection = connectToPrintServer();
     if (!connection.ok()) {
         return Result::failed(connection.reason());
     }
     http_t *http = connection.value().get();
-    DestinationList destinations(http);
-    cups_dest_t *destination = destinations.find(queue);
+    const DestinationList list(http);
+    cups_dest_t *destination = list.find(queue);
     if (!destination) {
         return Result::failed(
             TessarinPrint::tr("queue %1: the print server has no queue of this name").arg(queue.text()));
     }
+    QHash<QString, Saved> expected = savedOptions(list);
+    expected[queue.text().toLower()].insert(kept);
     for (int i = 0; i < options.count(); ++i) {
         const cups_option_t &option = options.data()[i];
-        if (isKept(option)) {
+        if (isKept(QString::fromUtf8(option.name), QString::fromUtf8(option.value))) {
             destination->num_options =
                 cupsAddOption(option.name, option.value, destination->num_options, &destination->options);
         }
     }
-    const QString file = userOptionsFile();
-    const QString backup = file + QStringLiteral(".backup");
-    const bool hadFile = QFile::exists(file);
-    if (hadFile) {
-        if (const QString failure = copyOver(file, backup); !failure.isEmpty()) {
+    const QString ofAllUsers =
+        qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups")) + QStringLiteral("/lpoptions");
+    const std::vector<Snapshot> snapshots = {Snapshot::of(userOptionsFile()), Snapshot::of(ofAllUsers)};
+    for (const Snapshot &snapshot : snapshots) {
+        const bool writable = snapshot.existed && QFileInfo(snapshot.path).isWritable();
+        const QString failure =
+            writable ? replaceFile(snapshot.path + QStringLiteral(".backup"), snapshot.content) : QString();
+        if (!failure.isEmpty()) {
             return Result::failed(failure);
         }
     }
-    if (cupsSetDests2(http, destinations.count, destinations.list) != 0) {
-        return Result::failed(TessarinPrint::tr("file %1: it cannot be written: %2").arg(file, lastCupsError()));
+    const Outcome<QString> file = writeThroughLibcups(http, list, queue, snapshots);
+    QString why = file.reason();
+    if (file.ok()) {
+        if (const QString wrong = whatIsWrong(expected, savedOptions(DestinationList(http))); !wrong.isEmpty()) {
+            why = TessarinPrint::tr("file %1: %2").arg(file.value(), wrong);
+        }
     }
-    const QStringList missing = missingFrom(DestinationList(http), queue, options);
-    if (missing.isEmpty()) {
-        return file;
+    if (why.isEmpty()) {
+        return file.value() == ofAllUsers ? TessarinPrint::tr("%1, for all users").arg(ofAllUsers) : file.value();
     }
-    QString why = TessarinPrint::tr("file %1: these options could not be kept: %2")
-                      .arg(file, missing.join(QStringLiteral(", ")));
-    const QString undone = hadFile ? copyOver(backup, file) : QString();
-    if (!hadFile && !QFile::remove(file)) {
-        why += TessarinPrint::tr("; it could not be removed again");
-    } else if (!undone.isEmpty()) {
-        why += TessarinPrint::tr("; the earlier ones are in %1").arg(backup);
+    for (const Snapshot &snapshot : snapshots) {
+        why += putBack(snapshot);
     }
     return Result::failed(why);
 }

@@ -27,7 +27,8 @@ int pageNumber(const QString &digits)
 Outcome<std::vector<PageRange>> parsePageRanges(const QString &text)
 {
     using Result = Outcome<std::vector<PageRange>>;
-    static const QRegularExpression form(QStringLiteral("^\\s*([0-9]+)?\\s*(-)?\\s*([0-9]+)?\\s*$"));
+    static const QRegularExpression form(QStringLiteral("^\\s*([0-9]+)?\\s*(-)?\\s*([0-9]+)?\\s*$"),
+                                         QRegularExpression::UseUnicodePropertiesOption); // blanks of any kind
     std::vector<PageRange> ranges;
     if (text.trimmed().isEmpty()) {
         return ranges;

@@ -14,6 +14,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 
+#include <clocale>
 #include <cstdio>
 #include <memory>
 
@@ -166,6 +167,8 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
+    // The toolkit has taken the environment's language over; the system's error texts in a trace stay English.
+    std::setlocale(LC_MESSAGES, "C");
     ReplayArguments arguments;
     return readArguments(QCoreApplication::arguments(), arguments) ? replay(arguments) : kUnusable;
 }
