@@ -154,6 +154,9 @@ QString PrintDialog::applyValues(const KeyValues &values)
 
 void PrintDialog::tellDifferences(const QString &what, const KeyValues &wanted)
 {
+    if (wanted.isEmpty()) {
+        return;
+    }
     saveSettings();
     KeyValues missing;
     for (const KeyValue &one : wanted) {

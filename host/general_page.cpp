@@ -40,8 +40,9 @@ GeneralPage::GeneralPage(JobSettings &settings, QWidget *parent)
     addAttribute(form, TessarinPrint::tr("O&f these:"), kPageSet,
                  {QStringLiteral("all"), QStringLiteral("odd"), QStringLiteral("even")});
     addOption(form, TessarinPrint::tr("Pap&er size:"), kPageSize);
-    addAttribute(form, TessarinPrint::tr("Or&ientation:"), kOrientation,
-                 {QString(), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("6"), QStringLiteral("5")});
+    addAttribute(
+        form, TessarinPrint::tr("Or&ientation:"), kOrientation,
+        {QStringLiteral(""), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("6"), QStringLiteral("5")});
     addOption(form, TessarinPrint::tr("&Two-sided:"), kDuplex);
     addAttribute(form, TessarinPrint::tr("Pages per s&heet:"), kNumberUp,
                  {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4"), QStringLiteral("6"),
@@ -154,7 +155,8 @@ void GeneralPage::chooseRanges()
     showProblem();
     const Outcome<std::vector<PageRange>> written = parsePageRanges(wantsRanges_ ? ranges_->text() : QString());
     if (written.ok()) {
-        shownRanges_ = normalPageRanges(written.value());
+        // To be without ranges is a value, too, which a null text is not.
+        shownRanges_ = QStringLiteral("") + normalPageRanges(written.value());
         emit chosen(QLatin1String(kPageRanges), shownRanges_);
     }
 }

@@ -164,7 +164,7 @@ SheetPlan planSheet(const Sheet &sheet, const PageLayout &layout, const SourceOf
     const bool isAutomatic = layout.orientation == 0;
     const PageSource &document = sourceOf(sheet.front().document);
     const QSizeF first = document.pageSize(sheet.front().page);
-    const QSizeF paper = !layout.paper.isEmpty()                         ? layout.paper
+    const QSizeF paper = !layout.paper.isEmpty()                       ? layout.paper
                          : document.hasFixedSize() && !first.isEmpty() ? first
                                                                        : PageLayout().paper;
     const bool isSquare = first.width() == first.height();
@@ -223,11 +223,11 @@ Outcome<QImage> drawSheet(const Sheet &sheet, const PageLayout &layout, const So
     const QTransform toPixels = painter.transform();
     for (const PlacedPage &placed : plan.pages) {
         const QRect target = toPixels.mapRect(placed.area).toRect();
-        const QImage page = sourceOf(placed.page.document)
-                                .render(placed.page.page,
-                                        (placed.isTurned ? target.size().transposed() : target.size())
-                                            .expandedTo(QSize(1, 1)),
-                                        cancelled);
+        const QImage page =
+            sourceOf(placed.page.document)
+                .render(placed.page.page,
+                        (placed.isTurned ? target.size().transposed() : target.size()).expandedTo(QSize(1, 1)),
+                        cancelled);
         if (page.isNull()) {
             return Outcome<QImage>::failed(cancelled ? QString() : cannotDraw(placed.page));
         }
@@ -237,7 +237,9 @@ Outcome<QImage> drawSheet(const Sheet &sheet, const PageLayout &layout, const So
         painter.setTransform(toPixels);
     }
     painter.setClipping(false);
-    drawMargins(painter, plan);
+    if (layout.showsMargins) {
+        drawMargins(painter, plan);
+    }
     painter.end();
     return layout.grey ? image.convertToFormat(QImage::Format_Grayscale8) : image;
 }

@@ -25,12 +25,14 @@ namespace tessarin::host {
 
 /// How the pages of a job go on its sheets.
 struct PageLayout {
-    QSizeF paper = QSizeF(595.276, 841.890); ///< points, as the printer takes it in (A4); empty: the pages' own size
-    QMarginsF margins{};                     ///< points: what the printer leaves white at the edges of `paper`
+    QSizeF paper =
+        QSizeF(595.276, 841.890); ///< points, as the printer takes it in (A4); empty: the pages' own size
+    QMarginsF margins{};          ///< points: what the printer leaves white at the edges of `paper`
     int orientation =
         0; ///< as IPP numbers it: 3 portrait, 4 landscape, 5 and 6 the same reversed; 0: as the pages are
     int numberUp = 1; ///< pages on a side: 1, 2, 4, 6, 9 or 16; others count as 1
     bool grey = false;
+    bool showsMargins = true; ///< pictures have dashed lines at the margins
 
     bool operator==(const PageLayout &other) const = default;
 };

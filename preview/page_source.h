@@ -41,6 +41,8 @@ public:
     /// Only a document that has no pages of its own, a text, takes notice: its pages are laid out anew, and
     /// pageCount() may answer another number.
     virtual void setPaper(const QSizeF & /*paper*/, const QMarginsF & /*margins*/) {}
+    /// Whether the document's file is PDF.
+    virtual bool isPdf() const { return false; }
     /// What a person has to know of these pages; empty when there is nothing.
     virtual QString remark() const { return {}; }
     /// A picture of the page that fits into `pixels` with its proportions kept; null when the page cannot be drawn,

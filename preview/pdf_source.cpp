@@ -47,6 +47,7 @@ public:
     }
 
     int pageCount() const override { return pageCount_; }
+    bool isPdf() const override { return true; }
 
     QSizeF pageSize(int page) const override
     {

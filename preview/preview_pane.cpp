@@ -5,68 +5,73 @@
 
 #include "printing/text.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <chrono>
+#include <cmath>
 
 namespace tessarin::host {
 
 namespace {
 
-constexpr int kMargin = 10;
-constexpr int kShadow = 3;
+using std::chrono_literals::operator""ms;
+
+constexpr QSize kLeastSize(180, 220);
+constexpr QSize kUsualSize(260, 340);
+constexpr int kMargin = 8;
+constexpr int kShadow = 4;
+constexpr int kShadowAlpha = 40;
 constexpr int kWheelStep = 120; // eighths of a degree that a notch of a wheel turns
 
 } // namespace
 
-PreviewPane::PreviewPane(QWidget *parent)
-    : QWidget(parent), bar_(new QWidget(this)),
-      first_(addButton("firstPage", TessarinPrint::tr("First page"), QStyle::SP_MediaSkipBackward)),
-      previous_(addButton("previousPage", TessarinPrint::tr("Previous page"), QStyle::SP_MediaSeekBackward)),
-      position_(new QLabel(bar_)),
-      next_(addButton("nextPage", TessarinPrint::tr("Next page"), QStyle::SP_MediaSeekForward)),
-      last_(addButton("lastPage", TessarinPrint::tr("Last page"), QStyle::SP_MediaSkipForward))
+PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent), remark_(new QLabel(this)), bar_(new TurnBar(this))
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(TessarinPrint::tr("Preview"));
     setFocusPolicy(Qt::StrongFocus);
-    setMinimumSize(180, 220);
+    setMinimumSize(kLeastSize);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    position_->setObjectName(QStringLiteral("previewPosition"));
-    position_->setAlignment(Qt::AlignCenter);
-    auto *row = new QHBoxLayout(bar_);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addStretch(1);
-    for (QWidget *widget :
-         {static_cast<QWidget *>(first_), static_cast<QWidget *>(previous_), static_cast<QWidget *>(position_),
-          static_cast<QWidget *>(next_), static_cast<QWidget *>(last_)}) {
-        row->addWidget(widget);
-    }
-    row->addStretch(1);
+    remark_->setObjectName(QStringLiteral("previewRemark"));
+    remark_->setTextFormat(Qt::PlainText);
+    remark_->setWordWrap(true);
+    remark_->setAlignment(Qt::AlignCenter);
     auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addStretch(1);
+    column->addWidget(remark_);
     column->addWidget(bar_);
-    connect(first_, &QToolButton::clicked, this, [this] { showSheet(0); });
-    connect(previous_, &QToolButton::clicked, this, [this] { showSheet(sheet_ - 1); });
-    connect(next_, &QToolButton::clicked, this, [this] { showSheet(sheet_ + 1); });
-    connect(last_, &QToolButton::clicked, this, [this] { showSheet(renderer_ ? renderer_->sheets() - 1 : 0); });
+    connect(bar_, &TurnBar::turned, this, &PreviewPane::turnTo);
+    asking_.setSingleShot(true);
+    asking_.setInterval(40ms);
+    connect(&asking_, &QTimer::timeout, this, &PreviewPane::ask);
+    patience_.setSingleShot(true);
+    patience_.setInterval(250ms);
+    connect(&patience_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
     showPosition();
 }
 
-QToolButton *PreviewPane::addButton(const char *name, const QString &text, QStyle::StandardPixmap icon)
+void PreviewPane::turnTo(Turn turn)
 {
-    auto *button = new QToolButton(bar_);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoRaise(true);
-    button->setIcon(style()->standardIcon(icon));
-    button->setToolTip(text);
-    button->setAccessibleName(text);
-    return button;
+    switch (turn) {
+    case Turn::First:
+        showSheet(0);
+        break;
+    case Turn::Previous:
+        showSheet(sheet_ - 1);
+        break;
+    case Turn::Next:
+        showSheet(sheet_ + 1);
+        break;
+    case Turn::Last:
+        showSheet(renderer_ ? renderer_->sheets() - 1 : 0);
+        break;
+    }
 }
 
 void PreviewPane::setRenderer(PreviewRenderer *renderer)
@@ -75,57 +80,84 @@ void PreviewPane::setRenderer(PreviewRenderer *renderer)
         renderer_->disconnect(this);
     }
     renderer_ = renderer;
-    image_ = {};
+    forget();
     if (renderer_) {
-        connect(renderer_, &PreviewRenderer::documentsOpened, this, [this] { showSheet(0); });
-        connect(renderer_, &PreviewRenderer::changed, this, [this] { showSheet(sheet_); });
+        connect(renderer_, &PreviewRenderer::documentsOpened, this, [this] {
+            forget();
+            showSheet(0);
+        });
+        connect(renderer_, &PreviewRenderer::changed, this, [this] {
+            failure_.clear();
+            showSheet(sheet_);
+        });
         connect(renderer_, &PreviewRenderer::ready, this, &PreviewPane::take);
+        connect(renderer_, &PreviewRenderer::failed, this, &PreviewPane::fail);
     }
     showSheet(0);
 }
 
 QString PreviewPane::message() const
 {
-    if (!renderer_ || (renderer_->isOpen() && renderer_->pageCount() == 0 && renderer_->problems().isEmpty())) {
+    if (!renderer_) {
         return TessarinPrint::tr("There is no document.");
     }
     if (!renderer_->isOpen()) {
-        return TessarinPrint::tr("Opening…");
+        return renderer_->isOpening() ? TessarinPrint::tr("Opening…") : TessarinPrint::tr("There is no document.");
     }
     if (renderer_->pageCount() == 0) {
-        return renderer_->problems().join(QStringLiteral("\n\n"));
+        return renderer_->problems().isEmpty() ? TessarinPrint::tr("There is no document.")
+                                               : renderer_->problems().join(QStringLiteral("\n\n"));
     }
     if (renderer_->sheets() == 0) {
         return TessarinPrint::tr("None of the document's %1 pages is selected.").arg(renderer_->pageCount());
+    }
+    if (!failure_.isEmpty()) {
+        return failure_;
     }
     return image_.isNull() ? TessarinPrint::tr("Drawing…") : QString();
 }
 
 QSize PreviewPane::sizeHint() const
 {
-    return {260, 340};
+    return kUsualSize;
 }
 
 QRect PreviewPane::paperArea() const
 {
-    return rect().adjusted(kMargin, kMargin, -kMargin, -kMargin - bar_->height());
+    int bottom = height();
+    for (const QWidget *below : {static_cast<const QWidget *>(remark_), static_cast<const QWidget *>(bar_)}) {
+        if (!below->isHidden()) {
+            bottom = std::min(bottom, below->geometry().top());
+        }
+    }
+    return QRect(0, 0, width(), bottom).adjusted(kMargin, kMargin, -kMargin - kShadow, -kMargin - kShadow);
+}
+
+void PreviewPane::forget()
+{
+    image_ = {};
+    failure_.clear();
 }
 
 void PreviewPane::showSheet(int sheet)
 {
     const int sheets = renderer_ ? renderer_->sheets() : 0;
     const int wanted = std::clamp(sheet, 0, std::max(0, sheets - 1));
-    if (wanted != sheet_ || sheets == 0) {
-        image_ = {}; // else the old picture stays until the new one is there
+    if (sheets == 0) {
+        forget();
+    } else if (wanted != sheet_) {
+        failure_.clear(); // the old picture stays until the new one is there
     }
     sheet_ = wanted;
+    patience_.start();
     showPosition();
-    start();
+    ask();
     update();
 }
 
-void PreviewPane::start()
+void PreviewPane::ask()
 {
+    asking_.stop();
     if (renderer_ && isVisible()) {
         renderer_->request(sheet_, paperArea().size() * devicePixelRatioF());
     }
@@ -136,6 +168,19 @@ void PreviewPane::take(int sheet, const QImage &image)
     if (sheet == sheet_) {
         image_ = image;
         image_.setDevicePixelRatio(devicePixelRatioF());
+        failure_.clear();
+        showPosition();
+        update();
+    }
+}
+
+void PreviewPane::fail(int sheet, const QString &reason)
+{
+    if (sheet == sheet_) {
+        image_ = {};
+        failure_ = reason;
+        patience_.stop();
+        showPosition();
         update();
     }
 }
@@ -143,62 +188,97 @@ void PreviewPane::take(int sheet, const QImage &image)
 void PreviewPane::showPosition()
 {
     const int sheets = renderer_ ? renderer_->sheets() : 0;
-    position_->setText(
-        sheets == 0 ? QString()
-                    : TessarinPrint::tr("Page %1 of %2").arg(QString::number(sheet_ + 1), QString::number(sheets)));
-    setAccessibleDescription(position_->text());
-    first_->setEnabled(sheet_ > 0);
-    previous_->setEnabled(sheet_ > 0);
-    next_->setEnabled(sheet_ + 1 < sheets);
-    last_->setEnabled(sheet_ + 1 < sheets);
+    const QString number = QString::number(sheet_ + 1);
+    const QString all = QString::number(sheets);
+    const QString place = sheets == 0                        ? QString()
+                          : renderer_->layout().numberUp > 1 ? TessarinPrint::tr("Sheet %1 of %2").arg(number, all)
+                                                             : TessarinPrint::tr("Page %1 of %2").arg(number, all);
+    bar_->setPosition(sheet_, sheets, place);
+    QStringList description = {place, failure_.isEmpty() && sheets > 0 ? QString() : message()};
+    description.removeAll(QString());
+    setAccessibleDescription(description.join(QStringLiteral(": ")));
+    const bool hasSheets = renderer_ && renderer_->isOpen() && sheets > 0;
+    const QStringList remarks = hasSheets ? renderer_->problems() + renderer_->remarks() : QStringList();
+    remark_->setText(remarks.join(u'\n'));
+    remark_->setVisible(!remarks.isEmpty());
     bar_->setVisible(sheets > 1);
 }
 
-void PreviewPane::paintEvent(QPaintEvent *)
+void PreviewPane::drawPaper(QPainter &painter, const QRect &area) const
 {
-    QPainter painter(this);
-    const QRect area = paperArea();
-    if (const QString text = message(); !text.isEmpty()) {
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
-        return;
+    QSizeF size = image_.deviceIndependentSize();
+    if (size.width() > area.width() || size.height() > area.height() ||
+        (size.width() < area.width() - 1 && size.height() < area.height() - 1)) {
+        size.scale(area.size(), Qt::KeepAspectRatio); // it was drawn for another size, and a new one is on its way
     }
-    QRectF place(QPointF(), image_.deviceIndependentSize().scaled(area.size(), Qt::KeepAspectRatio));
-    place.moveCenter(QRectF(area).center());
-    painter.fillRect(place.translated(kShadow, kShadow), palette().color(QPalette::Shadow));
+    const double ratio = devicePixelRatioF();
+    const QPointF corner = QRectF(area).center() - QPointF(size.width() / 2, size.height() / 2);
+    const QRectF place(QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio, size);
+    QColor shadow = palette().color(QPalette::Shadow);
+    shadow.setAlpha(kShadowAlpha);
+    for (int distance = 1; distance <= kShadow; ++distance) {
+        painter.fillRect(place.translated(distance, distance), shadow);
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, image_);
-    painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
+                              : QPen(palette().color(QPalette::Mid)));
     painter.drawRect(place.adjusted(-0.5, -0.5, 0.5, 0.5));
+}
+
+void PreviewPane::paintEvent(QPaintEvent * /*event*/)
+{
+    if (!image_.isNull() && image_.devicePixelRatio() != devicePixelRatioF()) {
+        asking_.start(); // the window went to a screen of another density
+    }
+    QPainter painter(this);
+    const QRect area = paperArea();
+    const QString text = message();
+    if (text.isEmpty()) {
+        drawPaper(painter, area);
+    } else if (!patience_.isActive()) {
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(area, Qt::AlignCenter | Qt::TextWrapAnywhere, text);
+    }
+}
+
+bool PreviewPane::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && renderer_) {
+        asking_.start(); // the room for the paper may be another
+    }
+    return QWidget::event(event);
 }
 
 void PreviewPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    start();
+    asking_.start();
 }
 
 void PreviewPane::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     showPosition();
-    start();
+    patience_.start();
+    ask();
 }
 
 void PreviewPane::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_PageUp:
-        showSheet(sheet_ - 1);
+        turnTo(Turn::Previous);
         break;
     case Qt::Key_PageDown:
-        showSheet(sheet_ + 1);
+        turnTo(Turn::Next);
         break;
     case Qt::Key_Home:
-        showSheet(0);
+        turnTo(Turn::First);
         break;
     case Qt::Key_End:
-        showSheet(renderer_ ? renderer_->sheets() - 1 : 0);
+        turnTo(Turn::Last);
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -213,6 +293,18 @@ void PreviewPane::wheelEvent(QWheelEvent *event)
         showSheet(sheet_ - notches);
     }
     event->accept();
+}
+
+void PreviewPane::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void PreviewPane::focusOutEvent(QFocusEvent *event)
+{
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 } // namespace tessarin::host

@@ -7,13 +7,13 @@
 #define TESSARIN_PREVIEW_PREVIEW_PANE_H
 
 #include "preview/preview_renderer.h"
+#include "preview/turn_bar.h"
 
 #include <QImage>
 #include <QLabel>
 #include <QPointer>
 #include <QString>
-#include <QStyle>
-#include <QToolButton>
+#include <QTimer>
 #include <QWidget>
 
 namespace tessarin::host {
@@ -27,39 +27,48 @@ public:
 
     /// What draws; borrowed, null for nothing.
     void setRenderer(PreviewRenderer *renderer);
+    /// The sheet that is shown, from 0.
     int sheet() const { return sheet_; }
-    /// What is shown in place of a sheet; empty while there is one.
+    /// The picture that is shown; null while there is none.
+    const QImage &picture() const { return image_; }
+    /// What is shown in place of a picture; empty while there is one.
     QString message() const;
 
     QSize sizeHint() const override;
 
 public slots:
+    /// Turns to a sheet; beyond the first or last one to that.
     void showSheet(int sheet);
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    QToolButton *addButton(const char *name, const QString &text, QStyle::StandardPixmap icon);
+    void turnTo(Turn turn);
     QRect paperArea() const;
-    void start();
+    void drawPaper(QPainter &painter, const QRect &area) const;
+    void ask();
     void take(int sheet, const QImage &image);
+    void fail(int sheet, const QString &reason);
+    void forget();
     void showPosition();
 
     QPointer<PreviewRenderer> renderer_{};
     int sheet_ = 0;
     QImage image_{};
-    int wheel_ = 0; ///< part of a turn that did not yet make a page
-    QWidget *bar_;  ///< owned by this widget, as the following
-    QToolButton *first_;
-    QToolButton *previous_;
-    QLabel *position_;
-    QToolButton *next_;
-    QToolButton *last_;
+    QString failure_{}; ///< why there is no picture of the sheet; empty: it may still come
+    int wheel_ = 0;     ///< part of a turn that did not yet make a page
+    QTimer asking_{};   ///< runs while the size may still change
+    QTimer patience_{}; ///< runs while nothing is said of a picture that is late
+    QLabel *remark_;    ///< owned by this widget, as the following
+    TurnBar *bar_;
 };
 
 } // namespace tessarin::host

@@ -3,7 +3,11 @@
 
 #include "preview/preview_renderer.h"
 
-#include <algorithm>
+#include "printing/text.h"
+
+#include <QFileInfo>
+
+#include <cmath>
 #include <numeric>
 #include <utility>
 
@@ -19,58 +23,71 @@ void cancel(std::shared_ptr<std::atomic<bool>> &flag)
     }
 }
 
+/// The size, or one of its proportions with no more than `most` pixels.
+QSize boundedPixels(const QSize &size, int most)
+{
+    const double pixels = static_cast<double>(size.width()) * size.height();
+    return pixels <= most ? size : (QSizeF(size) * std::sqrt(most / pixels)).toSize();
+}
+
 } // namespace
 
-PreviewRenderer::PreviewRenderer()
-{
-    thread_.setMaxThreadCount(1);
-}
+PreviewRenderer::PreviewRenderer(OpenPages open) : open_(std::move(open)), thread_(this) {}
 
 PreviewRenderer::~PreviewRenderer()
 {
     cancel(opening_);
     cancel(drawing_);
-    thread_.clear();
-    thread_.waitForDone();
 }
 
 void PreviewRenderer::setDocuments(const QStringList &paths)
 {
     cancel(opening_);
-    cancelDrawing();
+    cancel(drawing_);
     isOpen_ = false;
-    auto flag = std::make_shared<std::atomic<bool>>(false);
+    const auto flag = std::make_shared<std::atomic<bool>>(false);
     opening_ = flag;
-    thread_.start([this, flag, paths, layout = layout_] {
-        auto documents = std::make_shared<Documents>();
-        for (const QString &path : paths) {
+    thread_.start([this, flag, paths, open = open_, layout = layout_](const WorkerThread::HandOver &handOver) {
+        const auto documents = std::make_shared<Documents>();
+        openAll(paths, open, layout, *flag, *documents);
+        handOver([this, flag, documents] {
             if (*flag) {
                 return;
             }
-            Outcome<std::unique_ptr<PageSource>> source = openPages(path);
-            if (!source.ok()) {
-                documents->problems << source.reason();
-                continue;
-            }
-            documents->sources.push_back(source.take());
-            setReadingPaper(*documents->sources.back(), layout);
-            documents->pageCounts.push_back(documents->sources.back()->pageCount());
-        }
-        QMetaObject::invokeMethod(
-            this,
-            [this, flag, documents] {
-                if (*flag) {
-                    return;
-                }
-                documents_ = documents;
-                isOpen_ = true;
-                pageCount_ = std::accumulate(documents->pageCounts.begin(), documents->pageCounts.end(), 0);
-                problems_ = documents->problems;
-                select();
-                emit documentsOpened();
-            },
-            Qt::QueuedConnection);
+            documents_ = documents;
+            isOpen_ = true;
+            pageCount_ = std::accumulate(documents->pageCounts.begin(), documents->pageCounts.end(), 0);
+            problems_ = documents->problems;
+            remarks_ = documents->remarks;
+            cache_.clear();
+            select();
+            emit documentsOpened();
+        });
     });
+}
+
+void PreviewRenderer::openAll(const QStringList &paths, const OpenPages &open, const PageLayout &layout,
+                              const std::atomic<bool> &cancelled, Documents &documents)
+{
+    for (const QString &path : paths) {
+        if (cancelled) {
+            return;
+        }
+        Outcome<std::unique_ptr<PageSource>> opened = open(path);
+        if (!opened.ok()) {
+            documents.problems << opened.reason();
+            continue;
+        }
+        std::unique_ptr<PageSource> source = opened.take();
+        setReadingPaper(*source, layout);
+        const QString name = QFileInfo(path).fileName();
+        if (const QString remark = source->remark(); !remark.isEmpty()) {
+            documents.remarks << TessarinPrint::tr("%1: %2").arg(name, remark);
+        }
+        documents.names << name;
+        documents.pageCounts.push_back(source->pageCount());
+        documents.sources.push_back(std::move(source));
+    }
 }
 
 void PreviewRenderer::setLayout(const PageLayout &layout)
@@ -79,7 +96,7 @@ void PreviewRenderer::setLayout(const PageLayout &layout)
         return;
     }
     layout_ = layout;
-    cancelDrawing();
+    cancel(drawing_);
     cache_.clear();
     select();
     emit changed();
@@ -91,7 +108,7 @@ void PreviewRenderer::setPages(std::function<bool(int page)> isSelected)
     const std::vector<Sheet> before = selected_;
     select();
     if (selected_ != before) {
-        cancelDrawing();
+        cancel(drawing_);
         cache_.clear();
         emit changed();
     }
@@ -101,50 +118,54 @@ void PreviewRenderer::select()
 {
     selected_.clear();
     if (documents_) {
-        const std::function<bool(int)> all = [](int) { return true; };
-        selected_ =
-            sheetsOf(selectedPageRefs(documents_->pageCounts, isSelected_ ? isSelected_ : all), layout_.numberUp);
+        selected_ = sheetsOf(selectedPageRefs(documents_->pageCounts, isSelected_), layout_.numberUp);
     }
 }
 
-void PreviewRenderer::cancelDrawing()
+Outcome<QImage> PreviewRenderer::draw(const Documents &documents, const Sheet &sheet, const PageLayout &layout,
+                                      const QSize &pixels, const std::atomic<bool> &cancelled)
 {
-    cancel(drawing_);
+    const SourceOf sourceOf = [&documents](int document) -> PageSource & {
+        return *documents.sources[static_cast<std::size_t>(document)];
+    };
+    Outcome<QImage> drawn = drawSheet(sheet, layout, sourceOf, pixels, cancelled);
+    return drawn.ok() ? drawn
+                      : Outcome<QImage>::failed(TessarinPrint::tr("%1: %2").arg(
+                            documents.names.value(sheet.front().document), drawn.reason()));
 }
 
 void PreviewRenderer::request(int sheet, const QSize &pixels)
 {
-    cancelDrawing();
-    if (!isOpen_ || sheet < 0 || sheet >= sheets() || pixels.isEmpty()) {
+    cancel(drawing_);
+    const QSize size = boundedPixels(pixels, kMostPixels);
+    if (!isOpen_ || sheet < 0 || sheet >= sheets() || size.isEmpty()) {
         return;
     }
-    const QString name = QStringLiteral("%1 %2x%3").arg(sheet).arg(pixels.width()).arg(pixels.height());
+    const QString name = QStringLiteral("%1 %2x%3").arg(sheet).arg(size.width()).arg(size.height());
     if (const QImage *known = cache_.object(name)) {
         emit ready(sheet, *known);
         return;
     }
-    auto flag = std::make_shared<std::atomic<bool>>(false);
+    const auto flag = std::make_shared<std::atomic<bool>>(false);
     drawing_ = flag;
-    thread_.start([this, flag, name, sheet, pixels, pages = selected_[static_cast<std::size_t>(sheet)],
-                   documents = documents_, layout = layout_] {
+    thread_.start([this, flag, name, sheet, size, pages = selected_[static_cast<std::size_t>(sheet)],
+                   documents = documents_, layout = layout_](const WorkerThread::HandOver &handOver) {
         if (*flag) {
             return;
         }
-        const SourceOf sourceOf = [&](int document) -> PageSource & {
-            return *documents->sources[static_cast<std::size_t>(document)];
-        };
-        const Outcome<QImage> drawn = drawSheet(pages, layout, sourceOf, pixels, *flag);
-        QImage image = drawn.ok() ? drawn.value() : QImage();
-        QMetaObject::invokeMethod(
-            this,
-            [this, flag, name, sheet, image = std::move(image)] {
-                if (!*flag && !image.isNull()) {
-                    cache_.insert(name, new QImage(image),
-                                  static_cast<int>(image.sizeInBytes())); // the cache owns it
-                    emit ready(sheet, image);
-                }
-            },
-            Qt::QueuedConnection);
+        const Outcome<QImage> drawn = draw(*documents, pages, layout, size, *flag);
+        handOver([this, flag, name, sheet, drawn] {
+            if (*flag) {
+                return;
+            }
+            if (!drawn.ok()) {
+                emit failed(sheet, drawn.reason());
+                return;
+            }
+            const QImage &image = drawn.value();
+            cache_.insert(name, new QImage(image), image.sizeInBytes()); // the cache owns it
+            emit ready(sheet, image);
+        });
     });
 }
 

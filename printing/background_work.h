@@ -29,7 +29,7 @@ public:
     /// until abandon().
     static std::shared_ptr<BackgroundWork> start(QObject *receiver, std::function<void(BackgroundWork &)> run)
     {
-        const std::shared_ptr<BackgroundWork> work(new BackgroundWork(receiver));
+        std::shared_ptr<BackgroundWork> work(new BackgroundWork(receiver));
         std::thread([work, run = std::move(run)] { run(*work); }).detach();
         return work;
     }

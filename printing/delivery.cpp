@@ -93,7 +93,9 @@ QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::v
     for (const JobDocument &document : documents) {
         total += QFileInfo(document.path).size();
     }
-    const auto onSent = [this, total, done = qint64(0), told = qint64(-1)](qint64 bytes) mutable {
+    qint64 done = 0; // of all jobs together
+    qint64 told = -1;
+    const std::function<void(qint64)> observer = [this, total, &done, &told](qint64 bytes) {
         done += bytes;
         if (const qint64 step = total > 0 ? done * steps / total : 0; step != told) {
             told = step;
@@ -102,7 +104,6 @@ QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::v
         }
     };
     const std::size_t perJob = separate_ ? 1 : documents.size();
-    const std::function<void(qint64)> observer = onSent;
     Sent sent;
     do {
         const auto first = documents.begin() + static_cast<std::ptrdiff_t>(sent.documents);

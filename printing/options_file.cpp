@@ -8,7 +8,6 @@
 #include <QList>
 
 #include <algorithm>
-#include <utility>
 
 #include <cups/cups.h>
 
@@ -104,15 +103,17 @@ bool survivesOptionsFile(const QString &name, const QString &value)
 QByteArray mergedOptionsFile(const QByteArray &before, const QByteArray &written, const QueueName &ours)
 {
     const QByteArray ourKey = ours.text().toUtf8().toLower();
-    QList<Line> news = linesOf(written);
+    const QByteArray ourInstances = ours.instance.isEmpty() ? ourKey + '/' : ourKey;
+    const QList<Line> news = linesOf(written);
     QByteArrayList result;
     QByteArrayList done;
     for (const Line &old : linesOf(before)) {
         if (done.contains(old.key)) {
-            continue; // libcups made one line of several
+            continue; // libcups made one line of them
         }
-        const auto found = std::find_if(
-            news.begin(), news.end(), [&](const Line &line) { return !old.key.isEmpty() && line.key == old.key; });
+        const bool isOurs = old.key == ourKey || old.key.startsWith(ourInstances);
+        const auto found =
+            std::find_if(news.begin(), news.end(), [&](const Line &line) { return isOurs && line.key == old.key; });
         if (found != news.end()) {
             result << textOf(*found, old.isDefault);
             done << old.key;
@@ -124,7 +125,7 @@ QByteArray mergedOptionsFile(const QByteArray &before, const QByteArray &written
             done << old.key;
         }
     }
-    for (const Line &line : std::as_const(news)) {
+    for (const Line &line : news) {
         if (line.key == ourKey && !done.contains(ourKey)) {
             result << textOf(line, false);
         }

@@ -21,7 +21,7 @@ bool survivesOptionsFile(const QString &name, const QString &value);
 
 /// The file as it shall be after libcups wrote it for one queue. libcups leaves out the queues that the server does
 /// not list at the moment, makes the server's default queue the user's, and copies in what the administrator's file
-/// says; here everything but the lines of listed queues stays as it was.
+/// says; here the lines of the queue and of its instances, which take after it, are libcups', and all others stay.
 ///
 /// `before`: the file before; empty: there was none. `written`: the file as libcups wrote it. `ours`: the queue it
 /// was written for.

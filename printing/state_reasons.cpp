@@ -71,7 +71,7 @@ QString known(const QString &keyword)
 
 QString reasonText(const QString &keyword)
 {
-    if (const QString text = known(keyword); !text.isEmpty()) {
+    if (QString text = known(keyword); !text.isEmpty()) {
         return text; // before its end is cut: "document-format-error" is a name, not a degree
     }
     QString plain = keyword;

@@ -27,14 +27,27 @@ std::optional<QString> fromUtf8(QByteArrayView bytes)
     return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
+/// The user's languages as PPDs name them: "de_AT" and then "de".
+QStringList languages()
+{
+    QStringList all;
+    for (const QString &name : QLocale().uiLanguages()) {
+        const QStringList parts = name.split(u'-');
+        for (qsizetype count = parts.size(); count > 0; --count) {
+            all << parts.first(count).join(u'_');
+        }
+    }
+    all.removeDuplicates();
+    return all;
+}
+
 /// A text's translation, which a PPD keeps under the language and the keyword: "*de.MediaType Plain/Normalpapier".
 /// libcups could put the translations into the open PPD; then the panel, which reads the same, would find other
 /// texts there than it knows. Empty when there is none.
 QString translation(ppd_file_t *ppd, const char *keyword, const char *name)
 {
-    const QStringList languages = QLocale().uiLanguages();
-    for (QString language : languages) {
-        const QByteArray key = language.replace(u'-', u'_').toLatin1() + '.' + keyword;
+    for (const QString &language : languages()) {
+        const QByteArray key = language.toLatin1() + '.' + keyword;
         const ppd_attr_t *found = ppdFindAttr(ppd, key.constData(), name);
         if (found && found->text[0] != '\0') {
             return ppdText(found->text);

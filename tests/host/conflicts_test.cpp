@@ -192,7 +192,7 @@ TEST_F(ConflictsTest, LeavesTheSampleInPeace)
     ASSERT_TRUE(sample.ok()) << sample.reason().toStdString();
     EXPECT_EQ(listed(presentConflicts(*sample.value())), QString());
     EXPECT_EQ(conflictReason(*sample.value(), u"vornCartridgeType"_s, u"MatteBlack"_s),
-              u"not with Media Type: Photo Gloss"_s);
+              u"not with Media Type: Photo Pearl 290 g"_s);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include "host/offscreen.h"
 
+#include "host/printer_choices.h"
+
 #include "tests/host/fake_panel.h"
 #include "tests/host/host_test_support.h"
 
@@ -27,7 +29,7 @@ protected:
         ASSERT_TRUE(printer);
         plugIn_ = std::make_unique<test::FakePlugIn>(offer, std::make_shared<QStringList>());
         dialog_ = std::make_unique<PrintDialog>(DialogParts{
-            .printer = printer, .callback = std::make_shared<DialogCallback>(printer), .plugIn = plugIn_.get()});
+            .plugIn = plugIn_.get(), .printer = printer, .wanted = ppdChoice(test::fixture("minimal.ppd"))});
     }
 
     QTemporaryDir folder_{};

@@ -10,6 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <string>
+#include <thread>
+
 namespace tessarin::host {
 namespace {
 
@@ -24,7 +28,7 @@ QStringList outline(const QList<CatalogueGroup> &groups)
         for (const CatalogueOption &option : group.options) {
             keys << option.key;
         }
-        lines << group.text + u": " + keys.join(u' ');
+        lines << group.text + u": "_s + keys.join(u' ');
     }
     return lines;
 }
@@ -67,9 +71,9 @@ TEST(OptionCatalogue, ReadsTextsInLatin1AsTheyAre)
     const auto settings = test::settingsOf(test::fixture("pages.ppd"));
     ASSERT_TRUE(settings);
     const HostPrinter &printer = settings->printer();
-    EXPECT_EQ(choices(catalogueOption(printer, u"MediaType"_s)),
-              (QStringList{u"Plain=Plain Paper"_s, u"Photo=Gl&änzend"_s,
-                           u"Canvas=<u>Canvas</u> & Büttenpapier"_s}));
+    EXPECT_EQ(
+        choices(catalogueOption(printer, u"MediaType"_s)),
+        (QStringList{u"Plain=Plain Paper"_s, u"Photo=Gl&änzend"_s, u"Canvas=<u>Canvas</u> & Büttenpapier"_s}));
     EXPECT_EQ(choiceText(printer, u"PageSize"_s, u"A4"_s), u"A4 (210 × 297 mm)"_s);
     EXPECT_EQ(optionText(printer, u"staple"_s), u"Staple & Fold"_s);
 }
@@ -105,9 +109,24 @@ TEST(OptionCatalogue, DoesNotBelieveAWrongEncoding)
     }
 }
 
+/// Opens a PPD as a program does that was started in German: libcups takes in the translations of its own language
+/// alone, and asks for that once in each thread.
+std::unique_ptr<JobSettings> openInGerman(const QString &path)
+{
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    const QByteArray variable = qgetenv("LC_ALL");
+    std::setlocale(LC_ALL, "C"); // the German one need not be installed: libcups goes by the environment then
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    std::unique_ptr<JobSettings> settings;
+    std::thread([&] { settings = test::settingsOf(path); }).join();
+    qputenv("LC_ALL", variable);
+    std::setlocale(LC_ALL, locale.c_str());
+    return settings;
+}
+
 TEST(OptionCatalogue, SpeaksTheLanguageThatThePpdHas)
 {
-    const auto settings = test::settingsOf(test::fixture("pages-utf8.ppd"));
+    const auto settings = openInGerman(test::fixture("pages-utf8.ppd"));
     ASSERT_TRUE(settings);
     const HostPrinter &printer = settings->printer();
     {

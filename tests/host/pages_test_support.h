@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QStringList>
 #include <QWheelEvent>
+#include <QWidget>
 
 #include <memory>
 #include <string>
@@ -49,6 +50,16 @@ inline QString listed(const QList<host::OptionChoice> &choices)
         all << one.key + u'=' + one.choice;
     }
     return all.join(u' ');
+}
+
+/// Collects what a page or control tells of choices, as "key=value".
+template <typename Page>
+std::shared_ptr<QStringList> chosenOn(Page &page)
+{
+    auto told = std::make_shared<QStringList>();
+    QObject::connect(&page, &Page::chosen, &page,
+                     [told](const QString &key, const QString &value) { *told << key + u'=' + value; });
+    return told;
 }
 
 inline void pressKey(QWidget &widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,

@@ -6,6 +6,7 @@
 #include "host/command_line.h"
 #include "host/dialog.h"
 #include "host/plugin_loader.h"
+#include "host/printer_choices.h"
 #include "host/summary_lines.h"
 #include "tests/host/host_test_support.h"
 
@@ -26,13 +27,6 @@ Outcome<CommandLine> parse(const QStringList &arguments)
 {
     return parseCommandLine(QStringList{u"tessarin-print"_s} + arguments);
 }
-
-/// A delivery that nobody starts.
-class NoDelivery final : public Delivery {
-public:
-    void start(const JobTicket & /*ticket*/, DeliveryFinished /*finished*/) override { ADD_FAILURE(); }
-    void cancel() override {}
-};
 
 TEST(SummaryLines, FollowTheOrderAndNameEachLabelOnce)
 {
@@ -100,54 +94,61 @@ protected:
         plugIn_ = loaded.take();
         Outcome<std::shared_ptr<HostPrinter>> printer = HostPrinter::sample(QStringLiteral(TESSARIN_SAMPLE_PPD));
         ASSERT_TRUE(printer.ok()) << printer.reason().toStdString();
-        dialog_ =
-            std::make_unique<PrintDialog>(DialogParts{.printer = printer.value(),
-                                                      .callback = std::make_shared<DialogCallback>(printer.value()),
-                                                      .plugIn = plugIn_.plugIn.get(),
-                                                      .delivery = &delivery_,
-                                                      .documentNames = {}});
+        dialog_ = std::make_unique<PrintDialog>(
+            DialogParts{.plugIn = plugIn_.plugIn.get(), .printer = printer.value(), .wanted = sampleChoice()});
+        dialog_->show();
     }
 
     /// The value that the summary page shows for a label; a null text when it has no such line.
     QString shown(const QString &label)
     {
-        const auto *page = dialog_->findChild<SummaryPage *>();
-        for (int i = 0; i < page->topLevelItemCount(); ++i) {
-            if (page->topLevelItem(i)->text(0) == label) {
-                return page->topLevelItem(i)->text(1);
-            }
+        const auto *tree = dialog_->findChild<QTreeWidget *>(u"summary"_s);
+        for (const QTreeWidgetItem *item : tree->findItems(label, Qt::MatchExactly | Qt::MatchRecursive)) {
+            return item->text(1);
         }
         return {};
     }
 
     LoadedPlugIn plugIn_;
-    NoDelivery delivery_;
     std::unique_ptr<PrintDialog> dialog_;
 };
 
 TEST_F(SummaryDialog, ShowsTheSettingsAsTheyStandWhenItIsOpened)
 {
-    auto *button = dialog_->findChild<QPushButton *>(u"toSummary"_s);
-    button->click();
-    EXPECT_EQ(dialog_->findChild<SummaryPage *>()->topLevelItemCount(), 31);
-    EXPECT_EQ(shown(u"Print Simulation"_s), u"OFF - printing is enabled"_s);
+    dialog_->pages()->showPage(Page::Summary);
+    EXPECT_EQ(shown(u"Media Type"_s), u"Photo Pearl 290 g"_s);
     EXPECT_EQ(shown(u"Brightness"_s), u"100%"_s);
-    button->click();
+    dialog_->pages()->showPage(Page::Panel);
     // The first slider of the panel's first page is Brightness.
     auto *brightness = dialog_->panelView()->findChild<QTabWidget *>()->widget(0)->findChild<QSlider *>();
     brightness->setValue(-1);
-    button->click();
+    dialog_->pages()->showPage(Page::Summary);
     EXPECT_EQ(shown(u"Brightness"_s), u"95%"_s);
 }
 
 TEST_F(SummaryDialog, GoesBackToThePanel)
 {
-    auto *button = dialog_->findChild<QPushButton *>(u"toSummary"_s);
-    dialog_->show();
-    button->click();
+    dialog_->pages()->showPage(Page::Summary);
     EXPECT_FALSE(dialog_->panelView()->isVisible());
-    button->click();
+    dialog_->pages()->showPage(Page::Panel);
     EXPECT_TRUE(dialog_->panelView()->isVisible());
+}
+
+TEST_F(SummaryDialog, ResetsASliderToItsDefaultAndBack)
+{
+    auto *tabs = dialog_->panelView()->findChild<QTabWidget *>();
+    tabs->widget(0)->findChild<QSlider *>()->setValue(-3);
+    dialog_->saveSettings();
+    EXPECT_EQ(dialog_->openPrinter()->settings().value(u"vornBrightness"_s), u"-15"_s);
+    emit dialog_->pages()->resetRequested({u"vornBrightness"_s});
+    dialog_->saveSettings();
+    EXPECT_EQ(dialog_->openPrinter()->settings().value(u"vornBrightness"_s), u"0"_s);
+    auto *undo = dialog_->notice()->findChild<QPushButton *>();
+    ASSERT_TRUE(undo);
+    undo->click();
+    dialog_->saveSettings();
+    EXPECT_EQ(dialog_->openPrinter()->settings().value(u"vornBrightness"_s), u"-15"_s)
+        << "the panel shows it again";
 }
 
 TEST(SummaryProgram, ListsTheSettingsWithoutADisplay)
