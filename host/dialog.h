@@ -134,7 +134,8 @@ private:
     std::unique_ptr<DestinationFinder> finder_;
     std::unique_ptr<PreviewRenderer> renderer_;
     std::unique_ptr<JobRun> run_;
-    PrinterChoice opening_{}; ///< without name: nothing is being opened
+    PrinterChoice runChoice_{}; ///< where `run_` prints
+    PrinterChoice opening_{};   ///< without name: nothing is being opened
     bool started_ = false;
     bool delivering_ = false;
     bool stopping_ = false;           ///< the user asked to stop the running delivery

@@ -49,9 +49,16 @@ void PrintDialog::print()
         return;
     }
     const JobTicket ticket = completeTicket();
-    if (!findsConflicts()) {
-        deliver(parts_.makeDelivery(open_->printer()), ticket);
+    if (findsConflicts()) {
+        return;
     }
+    if (run_ && run_->canStartAgain() && runChoice_.isSame(picker_->current())) {
+        setDelivering(true);
+        run_->start(ticket); // of several jobs those that are still missing
+        return;
+    }
+    runChoice_ = picker_->current();
+    deliver(parts_.makeDelivery(open_->printer()), ticket);
 }
 
 bool PrintDialog::findsConflicts()
@@ -157,6 +164,7 @@ void PrintDialog::saveAsPdf()
     files->setDefaultSuffix(QStringLiteral("pdf"));
     files->setAttribute(Qt::WA_DeleteOnClose);
     connect(files, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        runChoice_ = pdfChoice();
         deliver(std::make_unique<PdfDelivery>(PdfRequest{.target = path,
                                                          .layout = layoutOf(open_->settings()),
                                                          .isSelected = selectedPages(open_->settings()),

@@ -51,6 +51,8 @@ JobRun::JobRun(std::unique_ptr<Delivery> delivery, QueueName queue)
 
 void JobRun::start(const JobTicket &ticket)
 {
+    stopping_ = false;
+    canStartAgain_ = false;
     delivery_->start(ticket, [this](const QString &failure) { delivered(failure); });
 }
 
@@ -71,6 +73,7 @@ void JobRun::cancel()
 void JobRun::delivered(const QString &failure)
 {
     if (!failure.isEmpty()) {
+        canStartAgain_ = true;
         if (stopping_) {
             emit cancelled(failure);
         } else {

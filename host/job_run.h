@@ -30,6 +30,8 @@ public:
     void start(const JobTicket &ticket);
     /// Stops the delivery, or cancels the jobs that run.
     void cancel();
+    /// True after a delivery that failed: starting again sends what is still to be sent, and nothing twice.
+    bool canStartAgain() const { return canStartAgain_; }
     /// True once the server has the jobs: closing the dialog leaves them there.
     bool isHandedOver() const { return !jobs_.empty(); }
 
@@ -59,6 +61,7 @@ private:
     QueueName queue_;
     std::vector<std::unique_ptr<Job>> jobs_{};
     bool stopping_ = false;
+    bool canStartAgain_ = false;
 };
 
 /// A job's state in words: "Job 12: printing".

@@ -58,10 +58,10 @@ QString translation(ppd_file_t *ppd, const char *keyword, const char *name)
 
 QString textOf(ppd_file_t *ppd, const char *keyword, const char *name, const char *text)
 {
-    if (const QString translated = translation(ppd, keyword, name); !translated.isEmpty()) {
+    if (QString translated = translation(ppd, keyword, name); !translated.isEmpty()) {
         return translated;
     }
-    const QString own = ppdText(text);
+    QString own = ppdText(text);
     return own.isEmpty() ? QString::fromUtf8(name) : own;
 }
 
@@ -199,7 +199,7 @@ QString choiceText(const HostPrinter &printer, const QString &key, const QString
     if (!found) {
         return choice;
     }
-    const QString text = textOf(printer.ppd(), *option, *found);
+    QString text = textOf(printer.ppd(), *option, *found);
     const QLatin1String custom("Custom.");
     if (qstrcmp(found->choice, kCustom) == 0 && choice.startsWith(custom, Qt::CaseInsensitive)) {
         //: %1 is "Custom" in the printer's words, %2 the custom value, such as a paper size

@@ -6,13 +6,14 @@
 #
 #   print_dialog_test.sh <tessarin-print> <case>
 #
-# Cases: print, cancel, keyboard, refused-tab. Places are those of the window at its first size, in pixels.
+# Cases: print, cancel, keyboard, refused-tab, pages. Places are those of the window at its first size, in pixels.
 set -euo pipefail
 
 program=$1
 case=$2
 work=$(mktemp -d)
 ticket=$work/ticket
+export HOME=$work XDG_CONFIG_HOME=$work/config # presets and memory of the tests' own
 trap 'kill $(jobs -p) 2>/dev/null || true; wait 2>/dev/null || true; rm -rf "$work"' EXIT
 
 fail() {
@@ -67,19 +68,19 @@ start_display
 case $case in
 print)
     start_dialog
-    click 430 137        # Media Type: its list opens
+    click 560 151        # Media Type: its list opens
     keys Down Return     # the next medium
-    click 430 213        # Print Resolution
+    click 560 227        # Print Resolution
     keys Up Return
-    click 392 263        # Brightness: the handle, which takes the focus
+    click 531 277        # Brightness: the handle, which takes the focus
     keys Left Left
-    click 115 95         # the tab Color
-    click 430 175        # Color Mode
+    click 255 109         # the tab Color
+    click 560 189        # Color Mode
     keys Down Return
-    click 186 95         # the tab Correction
-    click 538 511        # Print
+    click 326 109         # the tab Correction
+    click 677 526        # Print
     wait_for_end 0
-    [ "$(wc -l <"$ticket")" = 31 ] || fail "the ticket has $(wc -l <"$ticket") lines, expected 31"
+    [ "$(grep -c "^vorn" "$ticket")" = 31 ] || fail "the ticket has $(grep -c "^vorn" "$ticket") of the 31 settings"
     expect_line vornMediaType=PhotoSatin06
     expect_line vornResolution=1200x600dpi
     expect_line vornBrightness=-10
@@ -91,12 +92,12 @@ keyboard)
     start_dialog
     keys alt+p           # Print by its shortcut
     wait_for_end 0
-    [ "$(wc -l <"$ticket")" = 31 ] || fail "the ticket has $(wc -l <"$ticket") lines, expected 31"
+    [ "$(grep -c "^vorn" "$ticket")" = 31 ] || fail "the ticket has $(grep -c "^vorn" "$ticket") of the 31 settings"
     expect_line vornMediaType=PhotoPearl07
     ;;
 cancel)
     start_dialog
-    click 430 137
+    click 560 151
     keys Down Return
     keys Escape
     wait_for_end 1
@@ -104,19 +105,36 @@ cancel)
     ;;
 refused-tab)
     start_dialog
-    click 430 137
+    click 560 151
     keys Home Down Down Return   # the chart paper, a profile without colour data
     sleep 1
     keys Return                  # the warning's only button
     xdotool windowfocus --sync "$window"
-    click 186 95                 # the tab Correction is refused
-    click 392 263                # where Brightness is; it is disabled
+    click 326 109                 # the tab Correction is refused
+    click 531 277                # where Brightness is; it is disabled
     keys Left
-    click 538 511
+    click 677 526
     wait_for_end 0
     grep -qF 'Handle event #4501' "$work/panel.log" || fail "no event reached the panel"
     expect_line vornMediaType=ColorChart02
     expect_line vornBrightness=0
+    ;;
+pages)
+    start_dialog
+    keys alt+1                   # the page General
+    keys alt+c ctrl+a 3          # three copies
+    keys alt+e Down Tab          # the next paper size
+    keys alt+4                   # the page Summary
+    keys alt+l                   # all back to their defaults
+    sleep 0.5
+    keys alt+u                   # and that undone
+    sleep 0.5
+    keys alt+2
+    keys alt+p
+    wait_for_end 0
+    expect_line copies=3
+    expect_line PageSize=A5
+    expect_line media=A5
     ;;
 *)
     fail "unknown case $case"
