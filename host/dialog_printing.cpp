@@ -44,6 +44,11 @@ void PrintDialog::print()
     if (delivering_ || !open_) {
         return;
     }
+    if (const QString problem = pages_->problem(); !problem.isEmpty()) {
+        pages_->showPage(Page::General);
+        notice_->tell(problem);
+        return;
+    }
     if (open_->printer().kind() == PrinterKind::Pdf) {
         saveAsPdf();
         return;

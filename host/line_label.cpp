@@ -3,6 +3,8 @@
 
 #include "host/line_label.h"
 
+#include "host/plain_text.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -29,7 +31,7 @@ void LineLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-    setToolTip(shown == text() ? QString() : text().toHtmlEscaped());
+    setToolTip(shown == text() ? QString() : plainToolTip(text()));
     style()->drawItemText(&painter, rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, palette(),
                           isEnabled(), shown, foregroundRole());
 }

@@ -35,6 +35,8 @@ public:
 
     Page page() const;
     void showPage(Page page);
+    /// What a person has written on a page that cannot be read; empty when there is nothing of the kind.
+    QString problem() const { return general_->problem(); }
     /// Shows on the pages what the settings hold, after a choice that did not come about.
     void refresh();
     /// Gives the preview another parent and takes it off the page.

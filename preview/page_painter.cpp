@@ -194,8 +194,8 @@ SheetPlan planSheet(const Sheet &sheet, const PageLayout &layout, const SourceOf
         if (isTurned) {
             size.transpose();
         }
-        const QPointF corner(room.left() + cell.width() * (position % columns),
-                             room.top() + cell.height() * (position / columns));
+        const int row = position / columns;
+        const QPointF corner(room.left() + cell.width() * (position % columns), room.top() + cell.height() * row);
         plan.pages.push_back({.page = page,
                               .area = areaOf(size, source.hasFixedSize(), plan, numberUp, QRectF(corner, cell)),
                               .isTurned = isTurned});

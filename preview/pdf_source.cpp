@@ -7,6 +7,7 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <QTransform>
 #include <QVariant>
 
 #include <cmath>
@@ -35,6 +36,15 @@ void silencePoppler()
 bool isCancelled(const QVariant &flag)
 {
     return *static_cast<const std::atomic<bool> *>(flag.value<const void *>());
+}
+
+/// The quarter turns of a transformation that turns by nothing else.
+Poppler::Page::Rotation rotationOf(const QTransform &transform)
+{
+    if (std::abs(transform.m11()) >= std::abs(transform.m12())) {
+        return transform.m11() >= 0 ? Poppler::Page::Rotate0 : Poppler::Page::Rotate180;
+    }
+    return transform.m12() > 0 ? Poppler::Page::Rotate90 : Poppler::Page::Rotate270;
 }
 
 class PdfSource final : public PageSource {
@@ -79,13 +89,23 @@ public:
         if (!found || points.isEmpty()) {
             return false;
         }
-        const QRectF target = fitted(points, area);
+        // Poppler sets transformations of its own, which take the place of the painter's: what that one would do is
+        // told in resolution, offset and rotation.
+        const QTransform toDevice = painter.combinedTransform();
+        const QRectF target = toDevice.mapRect(fitted(points, area));
+        const Poppler::Page::Rotation rotation = rotationOf(toDevice);
+        const bool isTurned = rotation == Poppler::Page::Rotate90 || rotation == Poppler::Page::Rotate270;
+        const QSizeF shown = isTurned ? points.transposed() : points;
+        const QPoint corner = target.topLeft().toPoint();
         painter.save();
+        painter.resetTransform();
         painter.setClipRect(target, Qt::IntersectClip);
-        painter.translate(target.topLeft());
-        painter.scale(target.width() / points.width(), target.height() / points.height());
         document_->setRenderBackend(Poppler::Document::QPainterBackend);
-        const bool painted = found->renderToPainter(&painter, kPointsPerInch, kPointsPerInch);
+        const bool painted =
+            found->renderToPainter(&painter, target.width() / shown.width() * kPointsPerInch,
+                                   target.height() / shown.height() * kPointsPerInch, -corner.x(), -corner.y(),
+                                   corner.x() + static_cast<int>(std::ceil(target.width())) + 1,
+                                   corner.y() + static_cast<int>(std::ceil(target.height())) + 1, rotation);
         painter.restore();
         return painted;
     }

@@ -27,7 +27,7 @@ constexpr int kResolution = 720;        // fine enough that no line of a page mo
 constexpr double kGreyResolution = 300; // dots to the inch of pages in grey
 constexpr double kMostPixels = 36e6;    // of a page in grey; A2 at that resolution has 35 million
 constexpr double kTolerance = 2;        // points: paper sizes are often rounded
-constexpr qint64 kBlock = 1024 * 1024;  // bytes copied at a time
+constexpr qint64 kBlock = 1048576;      // bytes copied at a time
 
 using Sources = std::vector<std::unique_ptr<PageSource>>;
 using Progress = std::function<void(int done, int total)>;
@@ -199,7 +199,7 @@ private:
     {
         painter.save();
         painter.scale(kResolution / kPointsPerInch, kResolution / kPointsPerInch);
-        const QString failure = paintSheet(plan, sourceOf, painter);
+        QString failure = paintSheet(plan, sourceOf, painter);
         painter.restore();
         return failure;
     }

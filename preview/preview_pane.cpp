@@ -19,10 +19,10 @@ namespace tessarin::host {
 
 namespace {
 
-using std::chrono_literals::operator""ms;
-
 constexpr QSize kLeastSize(180, 220);
 constexpr QSize kUsualSize(260, 340);
+constexpr std::chrono::milliseconds kSettling(40);
+constexpr std::chrono::milliseconds kPatience(250);
 constexpr int kMargin = 8;
 constexpr int kShadow = 4;
 constexpr int kShadowAlpha = 40;
@@ -48,10 +48,10 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent), remark_(new QLabel(
     column->addWidget(bar_);
     connect(bar_, &TurnBar::turned, this, &PreviewPane::turnTo);
     asking_.setSingleShot(true);
-    asking_.setInterval(40ms);
+    asking_.setInterval(kSettling);
     connect(&asking_, &QTimer::timeout, this, &PreviewPane::ask);
     patience_.setSingleShot(true);
-    patience_.setInterval(250ms);
+    patience_.setInterval(kPatience);
     connect(&patience_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
     showPosition();
 }
@@ -143,10 +143,9 @@ void PreviewPane::showSheet(int sheet)
 {
     const int sheets = renderer_ ? renderer_->sheets() : 0;
     const int wanted = std::clamp(sheet, 0, std::max(0, sheets - 1));
+    failure_.clear(); // the old picture stays until the new one is there
     if (sheets == 0) {
         forget();
-    } else if (wanted != sheet_) {
-        failure_.clear(); // the old picture stays until the new one is there
     }
     sheet_ = wanted;
     patience_.start();
@@ -248,6 +247,9 @@ bool PreviewPane::event(QEvent *event)
     if (event->type() == QEvent::LayoutRequest && renderer_) {
         asking_.start(); // the room for the paper may be another
     }
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        update();
+    }
     return QWidget::event(event);
 }
 
@@ -293,18 +295,6 @@ void PreviewPane::wheelEvent(QWheelEvent *event)
         showSheet(sheet_ - notches);
     }
     event->accept();
-}
-
-void PreviewPane::focusInEvent(QFocusEvent *event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void PreviewPane::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 } // namespace tessarin::host

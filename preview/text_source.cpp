@@ -20,8 +20,8 @@ namespace tessarin::host {
 
 namespace {
 
-constexpr qint64 kBeginning = 256 * 1024;        // bytes: more than any first page holds
-constexpr qint64 kWhole = 64 * 1024 * 1024;      // bytes: a larger text is not laid out
+constexpr qint64 kBeginning = 262144;            // bytes: more than any first page holds
+constexpr qint64 kWhole = 67108864;              // bytes: a larger text is not laid out
 constexpr QSizeF kA4 = QSizeF(595.276, 841.890); // points
 constexpr int kFontUnit = 100;                   // pixels; drawn scaled, so that no hinting shifts the columns
 constexpr double kAscent = 0.8;                  // of a line: where its letters stand

@@ -155,7 +155,7 @@ bool JobSettings::differsFromDefault(const QString &key) const
 bool JobSettings::set(const QString &key, const QString &value, ChangeOrigin origin)
 {
     // A zero byte would let libcups see less of a text than the ticket keeps.
-    if (key.isNull() || value.isNull() || key.contains(QChar(u'\0')) || value.contains(QChar(u'\0'))) {
+    if (key.isEmpty() || key.contains(QChar(u'\0')) || value.contains(QChar(u'\0'))) {
         return false;
     }
     if (const JobAttribute *attribute = findAttribute(key)) {

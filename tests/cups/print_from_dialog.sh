@@ -10,18 +10,16 @@ program=$1
 queue=$2
 document=$3
 work=$(mktemp -d)
+export HOME=$work XDG_CONFIG_HOME=$work/config # presets and memory of the test's own
 trap 'kill $(jobs -p) 2>/dev/null || true; wait 2>/dev/null || true; rm -rf "$work"' EXIT
-mkfifo "$work/display"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" >"$work/xvfb.log" 2>&1 &
-read -r -t 30 number <"$work/display"
-export DISPLAY=:$number QT_QPA_PLATFORM=xcb
-"$program" --log none --printer "$queue" "$document" &
-dialog=$!
-window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$dialog" --name . | tail -n 1)
-sleep 1
-xdotool windowfocus --sync "$window"
-xdotool key --delay 80 alt+p
-status=0
-timeout 60 tail --pid="$dialog" -f /dev/null
-wait "$dialog" || status=$?
-exit "$status"
+fail() {
+    echo "FAILED: $*"
+    cat "$work/err.log"
+    exit 1
+}
+. "$(dirname "$0")/../dialog/virtual_display.sh"
+start_display
+open_dialog --log none --printer "$queue" "$document"
+sleep 2 # the queue is opened in the background
+keys alt+p
+wait_for_end 0

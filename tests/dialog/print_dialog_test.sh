@@ -24,40 +24,10 @@ fail() {
     exit 1
 }
 
-start_display() {
-    mkfifo "$work/display"
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" >"$work/xvfb.log" 2>&1 &
-    local number
-    read -r -t 30 number <"$work/display" || fail "the virtual display did not start"
-    export DISPLAY=:$number
-}
+. "$(dirname "$0")/virtual_display.sh"
 
 start_dialog() {
-    export QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
-    unset WAYLAND_DISPLAY
-    "$program" --sample --log "$work/panel.log" --ticket "$ticket" "$@" >"$work/out.log" 2>"$work/err.log" &
-    dialog=$!
-    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$dialog" --name . | tail -n 1) ||
-        fail "no window appeared"
-    # The window is there before it is painted and takes input.
-    sleep 1
-    xdotool windowfocus --sync "$window"
-}
-
-click() { # x y
-    xdotool mousemove --window "$window" "$1" "$2" sleep 0.2 click 1 sleep 0.3
-}
-
-keys() {
-    xdotool key --delay 80 "$@"
-    sleep 0.3
-}
-
-wait_for_end() { # expected status
-    local status=0
-    timeout 30 tail --pid="$dialog" -f /dev/null || fail "the dialog did not end"
-    wait "$dialog" || status=$?
-    [ "$status" = "$1" ] || fail "exit status $status, expected $1"
+    open_dialog --sample --log "$work/panel.log" --ticket "$ticket" "$@"
 }
 
 expect_line() {

@@ -3,9 +3,8 @@
 
 // Documents of every kind, good and bad.
 
-#include "preview_test_support.h"
-
 #include "preview/page_source.h"
+#include "tests/preview/preview_test_support.h"
 
 #include <QImageWriter>
 
@@ -63,10 +62,50 @@ TEST_F(PageSources, PdfIsPaintedWithItsProportions)
     QPainter painter(&image);
     ASSERT_TRUE(pages.value()->paint(0, painter, QRectF(0, 0, 100, 100)));
     painter.end();
-    EXPECT_EQ(colourAt(image, 0.25, 0.35), "red"); // the page lies in the middle, 50 high
-    EXPECT_NE(colourAt(image, 0.75, 0.65), "red");
+    EXPECT_EQ(colourAt(image, 0.05, 0.3), "red"); // the page lies in the middle, 50 high
+    EXPECT_EQ(colourAt(image, 0.45, 0.45), "red");
+    EXPECT_NE(colourAt(image, 0.55, 0.45), "red");
+    EXPECT_NE(colourAt(image, 0.45, 0.55), "red");
     EXPECT_EQ(colourAt(image, 0.25, 0.1), "yellow");
     EXPECT_EQ(colourAt(image, 0.25, 0.9), "yellow");
+}
+
+TEST_F(PageSources, PdfFollowsThePaintersTransformation)
+{
+    writePdfFile(path("one.pdf"), {{.size = QSizeF(200, 100), .corner = Qt::red}});
+    const auto pages = openPages(path("one.pdf"));
+    ASSERT_TRUE(pages.ok());
+    struct Case {
+        int angle = 0;
+        QPointF origin{};
+    };
+    for (const Case &one : {Case{0, {20, 40}}, Case{90, {60, 20}}, Case{180, {80, 60}}, Case{270, {40, 80}}}) {
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(Qt::yellow);
+        QPainter painter(&image);
+        painter.translate(one.origin);
+        painter.rotate(one.angle);
+        painter.scale(2, 2);
+        // 60 x 30 pixels at the origin; its corner is the first quarter of that
+        ASSERT_TRUE(pages.value()->paint(0, painter, QRectF(0, 0, 30, 15)));
+        painter.end();
+        int red = 0;
+        for (int y = 0; y < 100; ++y) {
+            for (int x = 0; x < 100; ++x) {
+                red += image.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+            }
+        }
+        EXPECT_NEAR(red, 30 * 15, 50) << one.angle;
+        QTransform turn;
+        turn.translate(one.origin.x(), one.origin.y());
+        turn.rotate(one.angle);
+        const QPointF corner = turn.map(QPointF(3, 3));
+        const QPointF end = turn.map(QPointF(27, 12));
+        const QPointF beyond = turn.map(QPointF(33, 18));
+        EXPECT_EQ(colourAt(image, corner.x() / 99, corner.y() / 99), "red") << one.angle;
+        EXPECT_EQ(colourAt(image, end.x() / 99, end.y() / 99), "red") << one.angle;
+        EXPECT_NE(colourAt(image, beyond.x() / 99, beyond.y() / 99), "red") << one.angle;
+    }
 }
 
 TEST_F(PageSources, PageThatIsNotThereIsNoPicture)
@@ -175,10 +214,8 @@ TEST_F(PageSources, ImageStandsUprightAsItsCameraSaid)
 
 TEST_F(PageSources, DamagedImageIsNoPicture)
 {
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    ASSERT_TRUE(image.save(path("whole.png")));
-    const auto pages = open("cut.png", test::readFile(path("whole.png")).left(40));
+    test::writeCutImage(path("cut.png"));
+    const auto pages = openPages(path("cut.png"));
     ASSERT_TRUE(pages.ok()); // its header says what it is
     EXPECT_TRUE(pages.value()->render(0, QSize(40, 40), never_).isNull());
 }

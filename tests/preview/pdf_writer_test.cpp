@@ -3,9 +3,8 @@
 
 // PDF files that are written, read again.
 
-#include "preview_test_support.h"
-
 #include "preview/pdf_writer.h"
+#include "tests/preview/preview_test_support.h"
 
 #include <QDir>
 
@@ -129,6 +128,23 @@ TEST_F(PdfWriting, SeveralPagesOnASide)
     EXPECT_EQ(colourAt(first, 0.6, 0.25), "blue");
 }
 
+TEST_F(PdfWriting, ReversedAndTurnedPages)
+{
+    const QString one = pdf("one.pdf", {{.corner = Qt::red}, {.size = QSizeF(842, 595), .corner = Qt::blue}});
+    ASSERT_TRUE(write({one}, {.layout = {.orientation = 6}}).ok());
+    auto pages = written();
+    ASSERT_TRUE(pages);
+    EXPECT_EQ(colourAt(pages->render(0, QSize(300, 300), never_), 0.75, 0.75), "red");
+    EXPECT_EQ(colourAt(pages->render(0, QSize(300, 300), never_), 0.25, 0.25), "white");
+    ASSERT_TRUE(write({one}, {.layout = {.numberUp = 4}}).ok());
+    pages = written();
+    ASSERT_TRUE(pages);
+    const QImage sheet = pages->render(0, QSize(300, 300), never_);
+    EXPECT_EQ(colourAt(sheet, 0.12, 0.12), "red");
+    EXPECT_EQ(colourAt(sheet, 0.6, 0.4), "blue"); // turned counterclockwise
+    EXPECT_EQ(colourAt(sheet, 0.6, 0.1), "white");
+}
+
 TEST_F(PdfWriting, GreyHasNoColoursAndNoMarginLines)
 {
     const QString one = pdf("one.pdf", {{.corner = Qt::red}});
@@ -162,10 +178,7 @@ TEST_F(PdfWriting, FailuresNameTheFileAndKeepTheTarget)
     test::writeFile(path("letter.ps"), "%!PS\n");
     EXPECT_EQ(write({one, path("letter.ps")}, {}).reason(),
               QStringLiteral("letter.ps: there is no preview of this kind of document"));
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    ASSERT_TRUE(image.save(path("whole.png")));
-    test::writeFile(path("cut.png"), test::readFile(path("whole.png")).left(40));
+    test::writeCutImage(path("cut.png"));
     EXPECT_EQ(write({one, path("cut.png")}, {}).reason(), QStringLiteral("cut.png: page 1 cannot be drawn"));
     EXPECT_EQ(write({one}, {.isSelected = [](int) { return false; }}).reason(),
               QStringLiteral("out.pdf: none of the pages is selected"));

@@ -3,9 +3,8 @@
 
 // Drawing in the background: answers, supersession, bounds, and documents that hang.
 
-#include "preview_test_support.h"
-
 #include "preview/preview_renderer.h"
+#include "tests/preview/preview_test_support.h"
 
 #include <QObject>
 
@@ -239,10 +238,7 @@ TEST_F(Renderer, MemoryOfSheetsIsBounded)
 
 TEST_F(Renderer, FailuresNameDocumentAndPage)
 {
-    QImage image(40, 20, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    ASSERT_TRUE(image.save(folder_.filePath("whole.png")));
-    test::writeFile(folder_.filePath("cut.png"), test::readFile(folder_.filePath("whole.png")).left(40));
+    test::writeCutImage(folder_.filePath("cut.png"));
     PreviewRenderer renderer;
     ASSERT_TRUE(open(renderer, {folder_.filePath("cut.png")}));
     const Heard heard(renderer);

@@ -88,6 +88,24 @@ inline void writePdfFile(const QString &path, const QList<TestPage> &pages)
     }
 }
 
+/// Writes the first half of an image that does not compress.
+inline void writeCutImage(const QString &path)
+{
+    QImage image(100, 100, QImage::Format_RGB32);
+    quint32 value = 1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            value = value * 1664525U + 1013904223U;
+            image.setPixel(x, y, 0xFF000000U | (value >> 8));
+        }
+    }
+    if (!image.save(path)) {
+        qFatal("%s cannot be written", qPrintable(path));
+    }
+    const QByteArray whole = readFile(path);
+    writeFile(path, whole.left(whole.size() / 2));
+}
+
 /// The colour at a point given as fractions of the width and height: "red", "white" and so on, or its code.
 inline std::string colourAt(const QImage &image, double x, double y)
 {

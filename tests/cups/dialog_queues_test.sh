@@ -1,0 +1,195 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# The dialog with queues of every temper and a server that comes and goes, used by its keys as a person would.
+#
+#   dialog_queues_test.sh <tessarin-print> <sample PPD> <case>
+set -euo pipefail
+program=$1
+sample=$2
+case=$3
+here=$(cd "$(dirname "$0")" && pwd)
+work=$(mktemp -d)
+. "$here/private_scheduler.sh"
+. "$here/queues.sh"
+. "$here/../dialog/virtual_display.sh"
+export HOME=$work/home XDG_CONFIG_HOME=$work/config
+mkdir -p "$HOME"
+cleanup() {
+    kill -CONT "$scheduler_pid" 2>/dev/null || true
+    stop_scheduler
+    # shellcheck disable=SC2046 # one word for each process
+    kill $(jobs -p) 2>/dev/null || true
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "FAILED: $*"
+    tail -n 40 "$work"/*.log
+    [ -z "$scheduler" ] || tail -n 40 "$scheduler/Log/error_log"
+    exit 1
+}
+
+open_on() { # queue
+    open_dialog --log none --printer "$1" "$work/document.txt"
+    sleep 2 # the queue is opened in the background
+}
+
+jobs_of() { # queue: how many jobs it ever got
+    lpstat -W all -o "$1" 2>/dev/null | wc -l
+}
+
+expect_jobs() { # queue, number
+    [ "$(jobs_of "$1")" = "$2" ] || fail "queue $1 has $(jobs_of "$1") jobs, expected $2"
+}
+
+start_scheduler
+make_queues "$sample"
+printf 'a document\n' >"$work/document.txt"
+start_display
+
+case $case in
+options)
+    # A script prints: all settings, and what it asked for with blanks, quotes and braces, exactly.
+    "$program" --no-dialog --log none -d 'odd_name&co' -n 2 -P 1-3,5- -o vornMediaType=PhotoSatin06 \
+        -o 'vornNote=it'"'"'s "a" {b} \c' -o vornBrightness=-7 "$work/document.txt" >"$work/out.log" 2>"$work/err.log" ||
+        fail "it did not print"
+    [ "$(cat "$work/out.log")" = "job odd_name&co-1" ] || fail "the job was not named: $(cat "$work/out.log")"
+    wait_for_job 1
+    received=$scheduler/received/options.1
+    [ "$(tr ' ' '\n' <"$received" | grep -c '^vorn[A-Za-z]*=')" -ge 31 ] || fail "settings are missing: $(cat "$received")"
+    for option in vornMediaType=PhotoSatin06 vornBrightness=-7 vornCartridgeType=PhotoBlack PageSize=A4; do
+        grep -qE "(^| )$option( |\$)" "$received" || fail "no $option: $(cat "$received")"
+    done
+    grep -qF 'vornNote=it\'"'"'s\ \"a\"\ {b}\ \\c' "$received" || fail "the note was changed: $(cat "$received")"
+    [ "$(cat "$scheduler/received/copies.1")" = 2 ] || fail "the copies were lost"
+    ;;
+impossible)
+    # A script that asks for what cannot be prints nothing.
+    status=0
+    "$program" --no-dialog --log none -d photo -o vornMediaType=Unheard "$work/document.txt" 2>"$work/err.log" || status=$?
+    [ $status = 2 ] || fail "exit status $status, expected 2"
+    grep -qF 'not possible on this printer: vornMediaType=Unheard' "$work/err.log" || fail "it did not say what"
+    expect_jobs photo 0
+    ;;
+default)
+    # Without a name the user's default is opened; what was printed on is remembered.
+    lpoptions -d photo >/dev/null
+    open_dialog --log none "$work/document.txt"
+    sleep 3
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 1
+    lpoptions -d generic >/dev/null
+    open_dialog --log none "$work/document.txt"
+    sleep 3
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 2
+    ;;
+other-driver)
+    # A printer without the panel's options still prints.
+    open_on generic
+    keys alt+p
+    wait_for_end 0
+    expect_jobs generic 1
+    ;;
+rejecting)
+    open_on rejecting
+    keys alt+p
+    wait_for_window 'Not printed'
+    keys Escape
+    xdotool windowfocus --sync "$window"
+    keys Escape
+    wait_for_end 1
+    expect_jobs rejecting 0
+    ;;
+paused)
+    # The job waits; the dialog may be closed meanwhile.
+    open_on paused
+    keys alt+p
+    sleep 4
+    kill -0 "$dialog" || fail "the dialog did not wait for the job"
+    keys Return
+    wait_for_end 0
+    expect_jobs paused 1
+    ;;
+failing)
+    # The job is stopped or given up; the dialog says so and keeps everything.
+    open_on broken
+    keys alt+p
+    wait_for_window 'Not printed'
+    keys Escape
+    xdotool windowfocus --sync "$window"
+    keys Escape
+    wait_for_end 1
+    ;;
+cancelled)
+    open_on slow
+    keys alt+p
+    sleep 3
+    keys Escape          # cancels the job
+    sleep 3
+    kill -0 "$dialog" || fail "the dialog did not stay"
+    keys Escape
+    wait_for_end 1
+    [ -z "$(lpstat -W not-completed -o slow)" ] || fail "the job goes on"
+    ;;
+down)
+    # No server when the dialog opens; it comes later.
+    halt_scheduler
+    open_on photo
+    resume_scheduler
+    keys alt+a           # Try Again
+    sleep 3
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 1
+    ;;
+away)
+    # The server goes while the dialog is open: nothing is lost, and Retry prints once.
+    open_on photo
+    halt_scheduler
+    keys alt+p
+    wait_for_window 'Not printed'
+    resume_scheduler
+    keys Return          # Retry
+    wait_for_end 0
+    expect_jobs photo 1
+    ;;
+silent)
+    # A server that hangs holds nobody: the dialog closes at once.
+    kill -STOP "$scheduler_pid"
+    open_on photo
+    before=$SECONDS
+    keys Escape
+    wait_for_end 1
+    [ $((SECONDS - before)) -le 30 ] || fail "it took $((SECONDS - before)) s to close"
+    ;;
+deleted)
+    open_on photo
+    lpadmin -x photo
+    keys alt+p
+    wait_for_window 'Not printed'
+    keys Escape
+    xdotool windowfocus --sync "$window"
+    keys Escape
+    wait_for_end 1
+    ;;
+changed-ppd)
+    # The driver changes under the dialog: what it shows is what is sent.
+    open_on photo
+    lpadmin -p photo -P "$scheduler/ppds/slow.ppd" 2>/dev/null
+    touch "$scheduler/received/go"
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 1
+    ;;
+*)
+    fail "unknown case $case"
+    ;;
+esac
+echo "passed: $case"
