@@ -36,6 +36,9 @@ void say(const QString &text)
     std::fprintf(stderr, "tessarin-print: %s\n", text.toLocal8Bit().constData());
 }
 
+/// False when the arguments ask for something that opens no window, not even for a message: a script waits.
+bool opensWindows = true;
+
 /// True when there are windows that somebody can see.
 bool hasScreen()
 {
@@ -48,7 +51,7 @@ bool hasScreen()
 int fail(ExitCode code, const QString &reason)
 {
     say(reason);
-    if (hasScreen() && ::isatty(STDERR_FILENO) == 0) {
+    if (opensWindows && hasScreen() && ::isatty(STDERR_FILENO) == 0) {
         QMessageBox box(QMessageBox::Critical, TessarinPrint::tr("Print"), reason);
         box.setTextFormat(Qt::PlainText);
         box.setInformativeText(TessarinPrint::tr("The print dialog cannot be opened."));
@@ -249,6 +252,7 @@ int runApplication(int argc, char **argv)
     }
     const bool noDisplay = displayIsMissing(argc, argv);
     const bool needsWindow = !asksForNoWindow(argc, argv);
+    opensWindows = needsWindow;
     if (noDisplay || (!needsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {
         chooseOffscreenPlatform();
     }

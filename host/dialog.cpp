@@ -203,7 +203,7 @@ void PrintDialog::openChoice(const PrinterChoice &choice)
     }
 }
 
-void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, const PrinterChoice &choice)
+void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choice)
 {
     opening_ = {};
     status_->clear();

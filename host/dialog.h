@@ -104,7 +104,7 @@ private:
     // Printers
     void start();
     void openChoice(const PrinterChoice &choice);
-    void adopt(std::shared_ptr<HostPrinter> printer, const PrinterChoice &choice);
+    void adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choice);
     void printerFailed(const QString &reason);
     void destinationsFound(const QList<Destination> &destinations);
     void showPrinter(std::shared_ptr<OpenPrinter> printer);

@@ -45,7 +45,9 @@ std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory,
 
 bool DirectoryBundle::loadTranslation(const QString &code)
 {
-    return translator_.load(QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code)));
+    const QString file = QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code));
+    // The translator would cut the name short at its underscores until it finds a file.
+    return QFile::exists(file) && translator_.load(file);
 }
 
 bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)

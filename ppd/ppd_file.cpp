@@ -5,13 +5,19 @@
 
 #include "platform/files.h"
 
+#include <cstdio>
+
+#include <fcntl.h>
+
 namespace tessarin {
 
 PPDHandle openPPD(const char *path)
 {
     // ppdOpenFile() would wait for ever on a pipe.
     const FileHandle file = openForReading(path);
-    return PPDHandle(file ? ppdOpen(file.get()) : nullptr);
+    // libcups closes the descriptor that it reads, ppdOpen() even that of the file it is given.
+    const int descriptor = file ? fcntl(fileno(file.get()), F_DUPFD_CLOEXEC, 0) : -1;
+    return PPDHandle(descriptor >= 0 ? ppdOpenFd(descriptor) : nullptr);
 }
 
 } // namespace tessarin

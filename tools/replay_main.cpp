@@ -112,6 +112,9 @@ int runScript(QFile &script, tools::ReplaySession &session)
         if (line.endsWith('\n')) {
             line.chop(1);
         }
+        if (number == 1 && line.startsWith("\xEF\xBB\xBF")) {
+            line.remove(0, 3); // the mark that some editors put before UTF-8
+        }
         if (tools::isSkippedLine(line)) {
             continue;
         }

@@ -8,7 +8,6 @@
 #include <QList>
 
 #include <cmath>
-#include <limits>
 
 namespace tessarin::tools {
 
@@ -58,10 +57,8 @@ const QHash<QString, QList<Field>> &commandFields()
 
 bool isInteger(const QJsonValue &value)
 {
-    constexpr double least = std::numeric_limits<int>::min();
-    constexpr double greatest = std::numeric_limits<int>::max();
     const double number = value.toDouble(std::nan(""));
-    return value.isDouble() && number >= least && number <= greatest && std::trunc(number) == number;
+    return value.isDouble() && std::trunc(number) == number;
 }
 
 bool hasType(const QJsonValue &value, FieldType type)

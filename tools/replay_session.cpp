@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace tessarin::tools {
 
@@ -32,7 +33,10 @@ Value textArray(const QStringList &texts)
 
 int number(const ReplayCommand &command, const char *field)
 {
-    return command.fields.value(QString::fromLatin1(field)).toInt();
+    // Beyond 32 bits it is the nearest end.
+    constexpr double least = std::numeric_limits<int>::min();
+    constexpr double greatest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(command.fields.value(QString::fromLatin1(field)).toDouble(), least, greatest));
 }
 
 QString text(const ReplayCommand &command, const char *field)

@@ -55,13 +55,13 @@ case $case in
 options)
     # A script prints: all settings, and what it asked for with blanks, quotes and braces, exactly.
     "$program" --no-dialog --log none -d 'odd_name&co' -n 2 -P 1-3,5- -o vornMediaType=PhotoSatin06 \
-        -o 'vornNote=it'"'"'s "a" {b} \c' -o vornBrightness=-7 "$work/document.txt" >"$work/out.log" 2>"$work/err.log" ||
+        -o 'vornNote=it'"'"'s "a" {b} \c' -o vornBrightness=-10 "$work/document.txt" >"$work/out.log" 2>"$work/err.log" ||
         fail "it did not print"
     [ "$(cat "$work/out.log")" = "job odd_name&co-1" ] || fail "the job was not named: $(cat "$work/out.log")"
     wait_for_job 1
     received=$scheduler/received/options.1
     [ "$(tr ' ' '\n' <"$received" | grep -c '^vorn[A-Za-z]*=')" -ge 31 ] || fail "settings are missing: $(cat "$received")"
-    for option in vornMediaType=PhotoSatin06 vornBrightness=-7 vornCartridgeType=PhotoBlack PageSize=A4; do
+    for option in vornMediaType=PhotoSatin06 vornBrightness=-10 vornCartridgeType=PhotoBlack PageSize=A4; do
         grep -qE "(^| )$option( |\$)" "$received" || fail "no $option: $(cat "$received")"
     done
     grep -qF 'vornNote=it\'"'"'s\ \"a\"\ {b}\ \\c' "$received" || fail "the note was changed: $(cat "$received")"
