@@ -36,7 +36,8 @@ int number(const ReplayCommand &command, const char *field)
     // Beyond 32 bits it is the nearest end.
     constexpr double least = std::numeric_limits<int>::min();
     constexpr double greatest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(command.fields.value(QString::fromLatin1(field)).toDouble(), least, greatest));
+    return static_cast<int>(
+        std::clamp(command.fields.value(QString::fromLatin1(field)).toDouble(), least, greatest));
 }
 
 QString text(const ReplayCommand &command, const char *field)
