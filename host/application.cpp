@@ -136,13 +136,13 @@ int printSummary(PrintDialog &dialog, SummaryForm form)
 }
 
 std::unique_ptr<Delivery> makeDelivery(const CommandLine &line, const HostPrinter &printer,
-                                       const Documents &documents)
+                                       const Documents &documents, bool separateJobs)
 {
     if (printer.kind() != PrinterKind::Queue) {
         return std::make_unique<TicketDelivery>(line.ticketFile);
     }
     auto delivery = std::make_unique<QueueDelivery>(printer.queueName(), documents.list, line.ticketFile);
-    delivery->setSeparateJobs(line.separateJobs);
+    delivery->setSeparateJobs(separateJobs);
     return delivery;
 }
 
@@ -218,7 +218,10 @@ int runProgram(const CommandLine &line)
         parts.documentPaths << document.path;
         parts.documentNames << document.name;
     }
-    parts.makeDelivery = [&](const HostPrinter &printer) { return makeDelivery(line, printer, documents.value()); };
+    parts.separateJobs = line.separateJobs;
+    parts.makeDelivery = [&](const HostPrinter &printer, bool separateJobs) {
+        return makeDelivery(line, printer, documents.value(), separateJobs);
+    };
     if (withoutWindow) {
         return runWithoutWindow(line, parts);
     }

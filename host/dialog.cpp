@@ -105,6 +105,10 @@ void PrintDialog::makeHeader(QVBoxLayout *column)
         finder_->start();
     });
     notice_ = new NoticeBar(this);
+    separate_ = new QCheckBox(TessarinPrint::tr("Print each document as a &job of its own"), this);
+    separate_->setObjectName(QStringLiteral("separateJobs"));
+    separate_->setChecked(parts_.separateJobs);
+    separate_->setVisible(parts_.documentPaths.size() > 1);
     auto *margin = new QHBoxLayout;
     margin->setContentsMargins(kMargin, kSpacing, kMargin, 0);
     margin->addWidget(notice_);
@@ -143,6 +147,7 @@ void PrintDialog::makeFooter(QVBoxLayout *column)
     auto *row = new QHBoxLayout;
     row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
     row->addWidget(presets_);
+    row->addWidget(separate_);
     row->addWidget(status_, 1);
     row->addWidget(progress_);
     row->addWidget(buttons);
@@ -214,7 +219,7 @@ void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choi
     // Preset and settings of the command line are for the first printer.
     if (const QString name = std::exchange(parts_.preset, {}); !name.isEmpty()) {
         const Outcome<KeyValues> preset = presets_->valuesOf(name);
-        values = preset.ok() ? preset.value() : KeyValues();
+        values = preset.ok() ? knownValues(printer, preset.value()) : KeyValues();
         problem = preset.reason();
     }
     values += std::exchange(parts_.values, {});

@@ -22,6 +22,7 @@
 #include "printing/documents.h"
 #include "printing/printer_loader.h"
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
 #include <QProgressBar>
@@ -36,8 +37,8 @@
 
 namespace tessarin::host {
 
-/// Makes what Print uses for a printer.
-using DeliveryFactory = std::function<std::unique_ptr<Delivery>(const HostPrinter &printer)>;
+/// Makes what Print uses for a printer. `separateJobs`: each document is to be a job of its own.
+using DeliveryFactory = std::function<std::unique_ptr<Delivery>(const HostPrinter &printer, bool separateJobs)>;
 
 /// What a dialog is made of. Plug-in and documents are borrowed and outlive the dialog.
 struct DialogParts {
@@ -51,6 +52,7 @@ struct DialogParts {
     QString preset{};                       ///< applied to the first printer; empty: none
     QStringList documentPaths{};
     QStringList documentNames{}; ///< as shown; may be empty
+    bool separateJobs = false;   ///< what the person is offered at first, where there are several documents
     DeliveryFactory makeDelivery{};
 };
 
@@ -147,6 +149,7 @@ private:
     PagesArea *pages_ = nullptr; ///< null while no printer is open
     PreviewPane *preview_ = nullptr;
     PresetMenu *presets_ = nullptr;
+    QCheckBox *separate_ = nullptr;
     QLabel *status_ = nullptr;
     QProgressBar *progress_ = nullptr;
     QPushButton *print_ = nullptr;

@@ -63,7 +63,7 @@ void PrintDialog::print()
         return;
     }
     runChoice_ = picker_->current();
-    deliver(parts_.makeDelivery(open_->printer()), ticket);
+    deliver(parts_.makeDelivery(open_->printer(), separate_->isChecked()), ticket);
 }
 
 bool PrintDialog::findsConflicts()
@@ -193,6 +193,7 @@ void PrintDialog::setDelivering(bool delivering)
     cancel_->setText(TessarinPrint::tr("Cancel"));
     picker_->setEnabled(!delivering);
     presets_->setEnabled(!delivering);
+    separate_->setEnabled(!delivering);
     body_->setEnabled(!delivering);
     progress_->setVisible(delivering);
     progress_->setRange(0, 0);

@@ -182,7 +182,7 @@ void PrintDialog::applyPreset(const QString &name)
     for (const KeyValue &one : before) {
         kept << one.key;
     }
-    if (!reopen(values.value(), kept)) {
+    if (!reopen(knownValues(open_->settings().sharedPrinter(), values.value()), kept)) {
         return;
     }
     offerUndo(TessarinPrint::tr("Preset applied: %1").arg(name), [this, before] { reopen(before, {}); });

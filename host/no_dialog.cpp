@@ -53,7 +53,7 @@ Outcome<std::shared_ptr<OpenPrinter>> openWithValues(const DialogParts &parts)
         if (!preset.ok()) {
             return Result::failed(preset.reason());
         }
-        values = preset.value();
+        values = knownValues(parts.printer, preset.value());
     }
     JobTicket all;
     for (const KeyValue &one : values + parts.values) {
@@ -88,7 +88,7 @@ RunResult printWithoutDialog(const DialogParts &parts)
     }
     RunResult result;
     QEventLoop loop;
-    std::unique_ptr<Delivery> delivery = parts.makeDelivery(printer.printer());
+    std::unique_ptr<Delivery> delivery = parts.makeDelivery(printer.printer(), parts.separateJobs);
     delivery->start(printer.settings().completeTicket(), [&](const QString &failure) {
         result.reason = failure;
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);

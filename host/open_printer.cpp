@@ -42,6 +42,18 @@ PanelSession openPanel(pde::PlugIn &plugIn, const std::shared_ptr<DialogCallback
     return session;
 }
 
+KeyValues knownValues(const std::shared_ptr<HostPrinter> &printer, const KeyValues &values)
+{
+    const JobSettings settings(printer);
+    KeyValues known;
+    for (const KeyValue &one : values) {
+        if (settings.knows(one.key)) {
+            known << one;
+        }
+    }
+    return known;
+}
+
 OpenPrinter::OpenPrinter(std::shared_ptr<HostPrinter> printer, pde::PlugIn *plugIn, const QString &problem,
                          const KeyValues &values)
     : settings_(std::make_shared<JobSettings>(std::move(printer))),

@@ -36,6 +36,10 @@ struct PanelSession {
 /// `problem`; a panel without view still saves.
 PanelSession openPanel(pde::PlugIn &plugIn, const std::shared_ptr<DialogCallback> &callback);
 
+/// The values whose keys a printer knows. A preset may be older than the printer's driver, and what it says of
+/// other options is nobody's business.
+KeyValues knownValues(const std::shared_ptr<HostPrinter> &printer, const KeyValues &values);
+
 /// An open printer. A panel's view is given back before the panel goes, by whoever shows it.
 class OpenPrinter {
 public:

@@ -128,6 +128,11 @@ bool JobSettings::hasOption(const QString &key) const
     return ppdFindOption(printer_->ppd(), key.toUtf8().constData()) != nullptr;
 }
 
+bool JobSettings::knows(const QString &key) const
+{
+    return hasOption(key) || findAttribute(key) != nullptr;
+}
+
 QString JobSettings::optionValue(const QString &key) const
 {
     const ppd_choice_t *marked = ppdFindMarkedChoice(printer_->ppd(), key.toUtf8().constData());

@@ -73,6 +73,8 @@ public:
 
     /// True for an option of the PPD.
     bool hasOption(const QString &key) const;
+    /// True for an option of the PPD and for a standard attribute.
+    bool knows(const QString &key) const;
     /// The keys of all options of the PPD that belong into a job, in the PPD's order: without the printer's
     /// installed hardware and without "PageRegion", which repeats "PageSize".
     const QStringList &optionKeys() const { return optionKeys_; }

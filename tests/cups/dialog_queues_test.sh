@@ -156,9 +156,54 @@ away)
     keys alt+p
     wait_for_window 'Not printed'
     resume_scheduler
-    keys Return          # Retry
+    keys alt+r           # Retry
     wait_for_end 0
     expect_jobs photo 1
+    ;;
+listing)
+    # The server goes while the queues are being listed, and hangs; later it is there again.
+    lpoptions -d photo >/dev/null
+    halt_scheduler # which writes its queues down
+    resume_scheduler
+    kill -STOP "$scheduler_pid"
+    open_dialog --log none "$work/document.txt"
+    kill -KILL "$scheduler_pid"
+    wait "$scheduler_pid" 2>/dev/null || true
+    sleep 4
+    resume_scheduler
+    keys F5
+    sleep 5
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 1
+    ;;
+cut)
+    # The server goes in the middle of the document: Retry prints it once, whole.
+    halt_scheduler # which writes its queues down
+    resume_scheduler
+    truncate -s 4G "$work/document.txt" # it takes long to send and no room here
+    open_on photo
+    keys alt+p
+    sleep 0.7
+    kill -KILL "$scheduler_pid"
+    wait "$scheduler_pid" 2>/dev/null || true
+    wait_for_window 'Not printed'
+    resume_scheduler
+    cancel -a -x photo 2>/dev/null || true # what the server remembers of the half of it
+    printf 'short\n' >"$work/document.txt"
+    keys alt+r           # Retry
+    wait_for_end 0
+    grep -qx short "$scheduler"/received/document.* || fail "the document did not arrive"
+    ;;
+separate)
+    # Several documents, each as a job of its own, by the check box.
+    cp "$work/document.txt" "$work/second.txt"
+    open_dialog --log none --printer photo "$work/document.txt" "$work/second.txt"
+    sleep 2
+    keys alt+j
+    keys alt+p
+    wait_for_end 0
+    expect_jobs photo 2
     ;;
 silent)
     # A server that hangs holds nobody: the dialog closes at once.

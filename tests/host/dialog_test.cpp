@@ -84,12 +84,14 @@ protected:
         const auto printer = test::minimalPrinter();
         ASSERT_TRUE(printer);
         plugIn_ = std::make_unique<FakePlugIn>(offer, calls_);
-        dialog_ = std::make_unique<PrintDialog>(DialogParts{
-            .plugIn = plugIn_.get(),
-            .printer = printer,
-            .wanted = ppdChoice(test::fixture("minimal.ppd")),
-            .documentNames = {u"a.pdf"_s, u"b.pdf"_s},
-            .makeDelivery = [this](const HostPrinter &) { return std::make_unique<LentDelivery>(delivery_); }});
+        dialog_ = std::make_unique<PrintDialog>(
+            DialogParts{.plugIn = plugIn_.get(),
+                        .printer = printer,
+                        .wanted = ppdChoice(test::fixture("minimal.ppd")),
+                        .documentNames = {u"a.pdf"_s, u"b.pdf"_s},
+                        .makeDelivery = [this](const HostPrinter &, bool /*separateJobs*/) {
+                            return std::make_unique<LentDelivery>(delivery_);
+                        }});
         dialog_->show();
     }
     QPushButton *button(const char *name) { return dialog_->findChild<QPushButton *>(QLatin1String(name)); }
