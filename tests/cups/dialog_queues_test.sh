@@ -28,14 +28,46 @@ trap cleanup EXIT
 
 fail() {
     echo "FAILED: $*"
-    tail -n 40 "$work"/*.log
+        tail -n 40 "$work"/*.log
     [ -z "$scheduler" ] || tail -n 40 "$scheduler/Log/error_log"
     exit 1
 }
 
 open_on() { # queue
     open_dialog --log none --printer "$1" "$work/document.txt"
-    sleep 2 # the queue is opened in the background
+    wait_for_printer "$1"
+}
+
+wait_for_jobs() { # queue, number
+    wait_until "queue $1 gets $2 jobs" expect_jobs_now "$@"
+}
+
+expect_jobs_now() { # queue, number
+    [ "$(jobs_of "$1")" = "$2" ]
+}
+
+no_job_waits() { # queue
+    [ -z "$(lpstat -W not-completed -o "$1" 2>/dev/null)" ]
+}
+
+# What a key does may take a moment to be possible: it is pressed until it has done its work.
+press_until() { # what, key, command...
+    local what=$1 key=$2 i
+    shift 2
+    for ((i = 0; i < 30; i++)); do
+        "$@" >/dev/null && return
+        keys "$key"
+        sleep 1.5
+    done
+    fail "in vain: $what"
+}
+
+has_ended() {
+    ! kill -0 "$dialog" 2>/dev/null
+}
+
+document_is_on_its_way() {
+    [ -n "$(find "$scheduler/Spool" -type f -size +1M)" ]
 }
 
 jobs_of() { # queue: how many jobs it ever got
@@ -43,7 +75,7 @@ jobs_of() { # queue: how many jobs it ever got
 }
 
 expect_jobs() { # queue, number
-    [ "$(jobs_of "$1")" = "$2" ] || fail "queue $1 has $(jobs_of "$1") jobs, expected $2"
+    expect_jobs_now "$@" || fail "queue $1 has $(jobs_of "$1") jobs, expected $2"
 }
 
 start_scheduler
@@ -79,13 +111,13 @@ default)
     # Without a name the user's default is opened; what was printed on is remembered.
     lpoptions -d photo >/dev/null
     open_dialog --log none "$work/document.txt"
-    sleep 3
+    wait_for_printer photo
     keys alt+p
     wait_for_end 0
     expect_jobs photo 1
     lpoptions -d generic >/dev/null
     open_dialog --log none "$work/document.txt"
-    sleep 3
+    wait_for_printer photo
     keys alt+p
     wait_for_end 0
     expect_jobs photo 2
@@ -102,7 +134,7 @@ rejecting)
     keys alt+p
     wait_for_window 'Not printed'
     keys Escape
-    xdotool windowfocus --sync "$window"
+    back_to_dialog
     keys Escape
     wait_for_end 1
     expect_jobs rejecting 0
@@ -111,9 +143,10 @@ paused)
     # The job waits; the dialog may be closed meanwhile.
     open_on paused
     keys alt+p
-    sleep 4
+    wait_for_jobs paused 1
+    sleep 2
     kill -0 "$dialog" || fail "the dialog did not wait for the job"
-    keys Return
+    press_until "the dialog closes" Return has_ended
     wait_for_end 0
     expect_jobs paused 1
     ;;
@@ -123,28 +156,27 @@ failing)
     keys alt+p
     wait_for_window 'Not printed'
     keys Escape
-    xdotool windowfocus --sync "$window"
+    back_to_dialog
     keys Escape
     wait_for_end 1
     ;;
 cancelled)
     open_on slow
     keys alt+p
-    sleep 3
+    wait_for_jobs slow 1
+    sleep 2
     keys Escape          # cancels the job
-    sleep 3
+    wait_until "the job is cancelled" no_job_waits slow
     kill -0 "$dialog" || fail "the dialog did not stay"
-    keys Escape
+    press_until "the dialog closes" Escape has_ended
     wait_for_end 1
-    [ -z "$(lpstat -W not-completed -o slow)" ] || fail "the job goes on"
     ;;
 down)
     # No server when the dialog opens; it comes later.
     halt_scheduler
-    open_on photo
+    open_dialog --log none --printer photo "$work/document.txt"
     resume_scheduler
-    keys alt+a           # Try Again
-    sleep 3
+    press_until "the queue opens" alt+a shows_printer photo # Try Again
     keys alt+p
     wait_for_end 0
     expect_jobs photo 1
@@ -169,10 +201,9 @@ listing)
     open_dialog --log none "$work/document.txt"
     kill -KILL "$scheduler_pid"
     wait "$scheduler_pid" 2>/dev/null || true
-    sleep 4
+    sleep 2
     resume_scheduler
-    keys F5
-    sleep 5
+    press_until "a queue opens" F5 shows_printer photo
     keys alt+p
     wait_for_end 0
     expect_jobs photo 1
@@ -184,7 +215,7 @@ cut)
     truncate -s 4G "$work/document.txt" # it takes long to send and no room here
     open_on photo
     keys alt+p
-    sleep 0.7
+    wait_until "the document is on its way" document_is_on_its_way
     kill -KILL "$scheduler_pid"
     wait "$scheduler_pid" 2>/dev/null || true
     wait_for_window 'Not printed'
@@ -199,7 +230,7 @@ separate)
     # Several documents, each as a job of its own, by the check box.
     cp "$work/document.txt" "$work/second.txt"
     open_dialog --log none --printer photo "$work/document.txt" "$work/second.txt"
-    sleep 2
+    wait_for_printer photo
     keys alt+j
     keys alt+p
     wait_for_end 0
@@ -208,7 +239,7 @@ separate)
 silent)
     # A server that hangs holds nobody: the dialog closes at once.
     kill -STOP "$scheduler_pid"
-    open_on photo
+    open_dialog --log none --printer photo "$work/document.txt"
     before=$SECONDS
     keys Escape
     wait_for_end 1
@@ -220,7 +251,7 @@ deleted)
     keys alt+p
     wait_for_window 'Not printed'
     keys Escape
-    xdotool windowfocus --sync "$window"
+    back_to_dialog
     keys Escape
     wait_for_end 1
     ;;

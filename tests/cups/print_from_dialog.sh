@@ -20,6 +20,6 @@ fail() {
 . "$(dirname "$0")/../dialog/virtual_display.sh"
 start_display
 open_dialog --log none --printer "$queue" "$document"
-sleep 2 # the queue is opened in the background
+wait_for_printer "$queue"
 keys alt+p
 wait_for_end 0

@@ -77,9 +77,9 @@ refused-tab)
     start_dialog
     click 560 151
     keys Home Down Down Return   # the chart paper, a profile without colour data
-    sleep 1
+    wait_for_window '^Tessarin ToolBox$'
     keys Return                  # the warning's only button
-    xdotool windowfocus --sync "$window"
+    back_to_dialog
     click 326 109                 # the tab Correction is refused
     click 531 277                # where Brightness is; it is disabled
     keys Left

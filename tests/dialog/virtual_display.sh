@@ -6,9 +6,12 @@
 #
 #   start_display
 #   open_dialog <arguments>...   sets $dialog (process) and $window; output in $work/out.log and $work/err.log
+#   wait_until <what> <command>...   fails when the command has not succeeded within a minute
+#   wait_for_printer <name>      until the dialog has it open, which its title says
+#   wait_for_window <title>      gives it the keyboard
+#   back_to_dialog               gives the dialog the keyboard, once it is the only window again
 #   click <x> <y>                in the window
 #   keys <key>...
-#   wait_for_window <title>      of the dialog's process; gives it the keyboard
 #   wait_for_end <status>
 
 start_display() {
@@ -20,14 +23,37 @@ start_display() {
     unset WAYLAND_DISPLAY
 }
 
+windows() { # options of a search, which all have to hold
+    xdotool search --all --onlyvisible "$@" 2>/dev/null
+}
+
+wait_until() { # what, command...
+    local what=$1 i
+    shift
+    for ((i = 0; i < 300; i++)); do
+        "$@" >/dev/null && return
+        sleep 0.2
+    done
+    fail "in vain: $what"
+}
+
 open_dialog() {
     "$program" "$@" >"$work/out.log" 2>"$work/err.log" &
     dialog=$!
-    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$dialog" --name . | tail -n 1) ||
-        fail "no window appeared"
+    wait_until "a window appears" windows --name '^Print'
+    window=$(windows --name '^Print' | tail -n 1)
     # The window is there before it is painted and takes input.
     sleep 1
-    xdotool windowfocus --sync "$window"
+    timeout 60 xdotool windowfocus --sync "$window"
+}
+
+shows_printer() { # name; the dialog's title is not of a kind that the search can read
+    [ "$(timeout 20 xdotool getwindowname "$window")" = "Print – $1" ]
+}
+
+wait_for_printer() { # name
+    wait_until "$1 opens" shows_printer "$1"
+    sleep 0.3
 }
 
 click() { # x y
@@ -40,11 +66,18 @@ keys() {
 }
 
 wait_for_window() { # title
-    local found
-    found=$(timeout 60 xdotool search --sync --onlyvisible --pid "$dialog" --name "$1" | tail -n 1) ||
-        fail "no window \"$1\" appeared"
+    wait_until "a window \"$1\" appears" windows --name "$1"
     sleep 0.5
-    xdotool windowfocus --sync "$found"
+    timeout 60 xdotool windowfocus --sync "$(windows --name "$1" | tail -n 1)"
+}
+
+dialog_is_alone() {
+    [ "$(windows --name . | wc -l)" = 1 ]
+}
+
+back_to_dialog() {
+    wait_until "the other windows close" dialog_is_alone
+    timeout 60 xdotool windowfocus --sync "$window"
 }
 
 wait_for_end() { # expected status

@@ -20,6 +20,12 @@ using test::colourAt;
 using test::writeFile;
 using test::writePdfFile;
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kKeepsFreedMemory = true;
+#else
+constexpr bool kKeepsFreedMemory = false;
+#endif
+
 class PageSources : public testing::Test {
 protected:
     QString path(const char *name) const { return folder_.filePath(QLatin1String(name)); }
@@ -162,19 +168,23 @@ TEST_F(PageSources, ThousandPagesOpenAtOnce)
     QElapsedTimer timer;
     timer.start();
     const auto pages = openPages(path("thousand.pdf"));
+    const qint64 opening = timer.nsecsElapsed();
     ASSERT_TRUE(pages.ok());
     EXPECT_EQ(pages.value()->pageCount(), 1000);
-    EXPECT_LT(timer.elapsed(), 2000);
     EXPECT_EQ(colourAt(pages.value()->render(999, QSize(50, 50), never_), 0.25, 0.25), "red");
 
     struct rusage before = {};
     getrusage(RUSAGE_SELF, &before);
+    timer.restart();
     for (int page = 0; page < 1000; page += 5) {
         ASSERT_FALSE(pages.value()->render(page, QSize(300, 300), never_).isNull());
     }
+    EXPECT_LT(opening, timer.nsecsElapsed()); // of a fifth of the pages: opening looks at none of them
     struct rusage after = {};
     getrusage(RUSAGE_SELF, &after);
-    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024); // KiB; 200 pictures at once would be twice that
+    if (!kKeepsFreedMemory) {
+        EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024); // KiB; 200 pictures at once would be more
+    }
 }
 
 TEST_F(PageSources, ImagesAreReadAtTheSizeThatIsWanted)
@@ -236,11 +246,8 @@ TEST_F(PageSources, WhatIsNoFileIsRefusedWithoutWaiting)
     EXPECT_EQ(openPages(path("missing.pdf")).reason(), QStringLiteral("missing.pdf: No such file or directory"));
     EXPECT_TRUE(openPages(folder_.path()).reason().endsWith(QStringLiteral(": it is a directory")));
     ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    QElapsedTimer timer;
-    timer.start();
     EXPECT_EQ(openPages(path("pipe")).reason(), QStringLiteral("pipe: it is not a regular file"));
     EXPECT_EQ(openPages(QStringLiteral("/dev/zero")).reason(), QStringLiteral("zero: it is not a regular file"));
-    EXPECT_LT(timer.elapsed(), 1000);
 }
 
 } // namespace

@@ -29,7 +29,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr qint64 kSilenceMilliseconds = 25000; // the deadlines are 5 and 15 seconds, and the machine may be busy
-constexpr qint64 kAtOnceMilliseconds = 2000;
+constexpr qint64 kAtOnceMilliseconds = 5000;
 
 bool waitUntil(const std::function<bool()> &done, qint64 milliseconds)
 {

@@ -113,12 +113,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(PageRanges, AreJudgedAtOnceHoweverLongTheText)
 {
-    QElapsedTimer timer;
-    timer.start();
+    // A search that starts over at every character would not come to an end here.
     for (const QString &filler : {u" "_s, u"1"_s, u"1 "_s, u"- "_s, u","_s}) {
-        EXPECT_FALSE(parsePageRanges(u"1"_s + filler.repeated(20000) + u"x"_s).ok()) << qPrintable(filler);
+        EXPECT_FALSE(parsePageRanges(u"1"_s + filler.repeated(1'000'000) + u"x"_s).ok()) << qPrintable(filler);
     }
-    EXPECT_LT(timer.elapsed(), 1000);
 }
 
 TEST(PageRanges, AreWrittenEvenWhenACallerGivesThemUnordered)

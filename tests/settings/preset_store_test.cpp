@@ -197,11 +197,8 @@ TEST_F(PresetStoreTest, HoldsAThousandPresets)
     }
     put(QJsonDocument(QJsonObject{{u"version"_s, 1}, {u"presets"_s, presets}}).toJson());
 
-    QElapsedTimer timer;
-    timer.start();
     ASSERT_EQ(store.save({.name = u"The last"_s, .values = {{u"a"_s, u"b"_s}}}, SaveMode::KeepExisting), u""_s);
     ASSERT_EQ(store.rename(u"preset 999"_s, u"Renamed"_s), u""_s);
-    EXPECT_LT(timer.elapsed(), 5000);
     const QStringList names = opened().names();
     ASSERT_EQ(names.size(), 1001);
     EXPECT_EQ(names[0], u"Preset 0"_s);
