@@ -123,6 +123,7 @@ void PrintDialog::makeFooter(QVBoxLayout *column)
     connect(presets_, &PresetMenu::applyRequested, this, &PrintDialog::applyPreset);
     connect(presets_, &PresetMenu::resetRequested, this, &PrintDialog::resetAll);
     connect(presets_, &PresetMenu::told, notice_, [this](const QString &text) { notice_->tell(text); });
+    connect(presets_, &PresetMenu::undoOffered, this, &PrintDialog::offerUndo);
     presets_->setValuesSource([this] {
         saveSettings();
         return open_;

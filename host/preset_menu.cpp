@@ -40,8 +40,14 @@ QString PresetMenu::lastUsedName()
 
 void PresetMenu::setPrinter(const QString &identity, const QueueName &queue)
 {
+    identity_ = identity;
     queue_ = queue;
-    Outcome<PresetStore> store = PresetStore::open(identity);
+    read();
+}
+
+void PresetMenu::read()
+{
+    Outcome<PresetStore> store = PresetStore::open(identity_);
     store_.reset();
     if (store.ok()) {
         store_ = store.take();
@@ -85,6 +91,9 @@ Outcome<KeyValues> PresetMenu::valuesOf(const QString &name) const
 void PresetMenu::fill()
 {
     menu_->clear();
+    if (!identity_.isEmpty()) {
+        read(); // another window may have changed them
+    }
     menu_->addAction(TessarinPrint::tr("Default settings"), this, &PresetMenu::resetRequested);
     const QString last = lastUsedName();
     menu_->addAction(last, this, [this, last] { emit applyRequested(last); })
@@ -120,6 +129,11 @@ void PresetMenu::report(const QString &failure, const QString &success)
     emit told(failure.isEmpty() ? success : failure);
 }
 
+QString PresetMenu::keep(const Preset &preset, SaveMode mode)
+{
+    return store_ ? store_->save(preset, mode) : problem_;
+}
+
 void PresetMenu::save()
 {
     auto *dialog = new SavePresetDialog(source_(), names(), this);
@@ -130,8 +144,8 @@ void PresetMenu::save()
             values.emplace_back(one.key, one.value);
         }
         const QString name = dialog->name();
-        report(store_->save({.name = name, .values = values},
-                            dialog->replaces() ? SaveMode::ReplaceExisting : SaveMode::KeepExisting),
+        report(keep({.name = name, .values = values},
+                    dialog->replaces() ? SaveMode::ReplaceExisting : SaveMode::KeepExisting),
                TessarinPrint::tr("Preset saved: %1").arg(name));
     });
     dialog->open();
@@ -152,7 +166,15 @@ void PresetMenu::rename(const QString &name)
 
 void PresetMenu::remove(const QString &name)
 {
-    report(store_->remove(name), TessarinPrint::tr("Preset deleted: %1").arg(name));
+    const std::optional<Preset> preset = store_->preset(name);
+    const QString failure = store_->remove(name);
+    if (!failure.isEmpty() || !preset) {
+        emit told(failure);
+        return;
+    }
+    emit undoOffered(TessarinPrint::tr("Preset deleted: %1").arg(name), [this, preset] {
+        report(keep(*preset, SaveMode::KeepExisting), TessarinPrint::tr("Preset saved: %1").arg(preset->name));
+    });
 }
 
 void PresetMenu::rememberLastUsed()

@@ -46,8 +46,13 @@ signals:
     void resetRequested();
     /// Something that the user should know.
     void told(const QString &text);
+    /// Something was done that `undo` takes back, as long as this printer is shown.
+    void undoOffered(const QString &text, const std::function<void()> &undo);
 
 private:
+    void read();
+    /// Saves a preset; answers why it could not be.
+    QString keep(const Preset &preset, SaveMode mode);
     void fill();
     void save();
     void rename(const QString &name);
@@ -55,7 +60,8 @@ private:
     void makeDefaults();
     void report(const QString &failure, const QString &success);
 
-    QMenu *menu_; ///< owned by this widget
+    QMenu *menu_;        ///< owned by this widget
+    QString identity_{}; ///< of the printer; empty before there is one
     QueueName queue_{};
     std::optional<PresetStore> store_{};
     QString problem_{}; ///< why there is no store
