@@ -155,8 +155,11 @@ int listPresets(const PrinterChoice &wanted)
 {
     PresetMenu presets;
     presets.setPrinter(wanted.identity(), wanted.queue);
-    const QStringList names = presets.names();
-    const bool written = writeOut(names.isEmpty() ? QString() : names.join(u'\n') + u'\n');
+    if (!presets.problem().isEmpty()) {
+        return fail(ExitCode::Usage, presets.problem());
+    }
+    const QStringList names = QStringList{PresetMenu::defaultsName(), PresetMenu::lastUsedName()} + presets.names();
+    const bool written = writeOut(names.join(u'\n') + u'\n');
     return static_cast<int>(written ? ExitCode::Printed : ExitCode::Usage);
 }
 

@@ -69,9 +69,9 @@ PrintDialog::PrintDialog(DialogParts parts, QWidget *parent)
         picker_->setSearching(false);
         if (!open_ && opening_.name.isEmpty()) {
             showPlaceholder(reason, {{TessarinPrint::tr("Try &Again"), [this] { start(); }}});
-        } else {
+        } else if (notice_->isHidden()) {
             notice_->tell(reason);
-        }
+        } // else what it says is nearer to the person's heart: an undo, or why their printer does not open
     });
 
     setWindowTitle(TessarinPrint::tr("Print"));
@@ -81,6 +81,7 @@ PrintDialog::PrintDialog(DialogParts parts, QWidget *parent)
     } else {
         showPlaceholder(TessarinPrint::tr("Looking for printers…"));
     }
+    updateEnabled();
 }
 
 PrintDialog::~PrintDialog()
@@ -99,7 +100,7 @@ void PrintDialog::makeHeader(QVBoxLayout *column)
     picker_ = new PrinterPicker(this);
     picker_->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
     picker_->setRemark(parts_.documentNames.join(QStringLiteral(", ")));
-    connect(picker_, &PrinterPicker::picked, this, &PrintDialog::openChoice);
+    connect(picker_, &PrinterPicker::picked, this, &PrintDialog::pick);
     connect(picker_, &PrinterPicker::refreshRequested, this, [this] {
         picker_->setSearching(true);
         finder_->start();
@@ -188,12 +189,42 @@ void PrintDialog::start()
     }
 }
 
+void PrintDialog::pick(const PrinterChoice &choice)
+{
+    if (open_ && choice.isSame(picker_->current())) {
+        cancelOpening();
+    } else {
+        openChoice(choice);
+    }
+}
+
+void PrintDialog::cancelOpening()
+{
+    loader_->cancel();
+    opening_ = {};
+    status_->clear();
+    picker_->setCurrent(picker_->current()); // the list goes back to the printer that is open
+    updateEnabled();
+}
+
+void PrintDialog::updateEnabled()
+{
+    const bool ready = open_ && opening_.name.isEmpty() && !delivering_;
+    print_->setEnabled(ready || isHandedOver());
+    body_->setEnabled(ready || !open_);
+    presets_->setEnabled(ready);
+    picker_->setEnabled(!delivering_);
+    separate_->setEnabled(!delivering_);
+    notice_->setEnabled(!delivering_);
+}
+
 void PrintDialog::openChoice(const PrinterChoice &choice)
 {
     loader_->cancel();
+    notice_->dismiss(); // it is about the printer that is left
     opening_ = choice;
     status_->setText(TessarinPrint::tr("Opening %1…").arg(choice.name));
-    print_->setEnabled(false);
+    updateEnabled();
     if (choice.kind == PrinterKind::Queue) {
         if (!open_) {
             showPlaceholder(TessarinPrint::tr("Opening %1…").arg(choice.name));
@@ -216,14 +247,14 @@ void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choi
     notice_->dismiss();
     presets_->setPrinter(choice.identity(), choice.queue);
     KeyValues values;
-    QString problem;
+    QStringList problems;
     // Preset and settings of the command line are for the first printer.
-    if (const QString name = std::exchange(parts_.preset, {}); !name.isEmpty()) {
-        const Outcome<KeyValues> preset = presets_->valuesOf(name);
+    if (!parts_.preset.isEmpty()) {
+        const Outcome<KeyValues> preset = presets_->valuesOf(parts_.preset);
         values = preset.ok() ? knownValues(printer, preset.value()) : KeyValues();
-        problem = preset.reason();
+        problems << preset.reason();
     }
-    values += std::exchange(parts_.values, {});
+    values = lastOfEach(JobSettings(printer), values + parts_.values);
     if (!values.isEmpty()) {
         JobTicket all;
         for (const KeyValue &one : values) {
@@ -231,17 +262,24 @@ void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choi
         }
         Outcome<std::shared_ptr<HostPrinter>> again = printer->again(all.toCupsOptions());
         if (!again.ok()) {
+            opening_ = choice;
             printerFailed(again.reason());
             return;
         }
         printer = again.take();
     }
+    parts_.preset.clear();
+    parts_.values.clear();
     picker_->setCurrent(choice);
     setWindowTitle(TessarinPrint::tr("Print – %1").arg(choice.name));
     showPrinter(std::make_shared<OpenPrinter>(std::move(printer), parts_.plugIn, parts_.panelProblem, values));
-    tellDifferences(TessarinPrint::tr("Not possible on this printer"), values);
-    if (!problem.isEmpty()) {
-        notice_->tell(problem);
+    if (!values.isEmpty()) {
+        saveSettings();
+        problems << differences(TessarinPrint::tr("Not possible on this printer"), values);
+    }
+    problems.removeAll(QString());
+    if (!problems.isEmpty()) {
+        notice_->tell(problems.join(u'\n'));
     }
 }
 
@@ -255,7 +293,7 @@ void PrintDialog::printerFailed(const QString &reason)
         showPlaceholder(TessarinPrint::tr("There is no printer open."));
     }
     picker_->setCurrent(open_ ? picker_->current() : failed); // the list goes back to the printer that is open
-    print_->setEnabled(open_ != nullptr);
+    updateEnabled();
     notice_->tell(reason, again);
 }
 
@@ -264,8 +302,15 @@ void PrintDialog::destinationsFound(const QList<Destination> &destinations)
     picker_->setSearching(false);
     const QList<PrinterChoice> queues = choicesOf(destinations);
     picker_->setChoices(queues + parts_.offered);
-    if (open_ || !opening_.name.isEmpty()) {
+    // Who asked for a printer that cannot be opened chooses another one; it is not for the dialog to do so.
+    if (open_ || !opening_.name.isEmpty() || !parts_.wanted.name.isEmpty()) {
         return;
+    }
+    for (const PrinterChoice &choice : parts_.offered) {
+        if (choice.identity() == lastPrinter()) {
+            openChoice(choice);
+            return;
+        }
     }
     if (const std::optional<PrinterChoice> first = preferredChoice(queues, lastPrinter(), destinations)) {
         openChoice(*first);
@@ -279,7 +324,7 @@ void PrintDialog::showPlaceholder(const QString &text, const QList<NoticeAction>
 {
     placeholder_->setText(text);
     placeholder_->show();
-    print_->setEnabled(false);
+    updateEnabled();
     if (!actions.isEmpty()) {
         placeholder_->setText(TessarinPrint::tr("There is no printer open."));
         notice_->tell(text, actions);
@@ -299,10 +344,11 @@ void PrintDialog::showPrinter(std::shared_ptr<OpenPrinter> printer)
     pages_->showPage(page.value_or(panelView() ? Page::Panel : Page::General));
     placeholder_->hide();
     bodyColumn_->addWidget(pages_, 1);
-    print_->setEnabled(!delivering_);
-    connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose);
-    connect(pages_, &PagesArea::resetRequested, this, &PrintDialog::resetKeys);
-    connect(pages_, &PagesArea::resetAllRequested, this, &PrintDialog::resetAll);
+    updateEnabled();
+    // Queued: a change may bring new pages, and the one that asks for it has not come to its end.
+    connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose, Qt::QueuedConnection);
+    connect(pages_, &PagesArea::resetRequested, this, &PrintDialog::resetKeys, Qt::QueuedConnection);
+    connect(pages_, &PagesArea::resetAllRequested, this, &PrintDialog::resetAll, Qt::QueuedConnection);
     connect(pages_, &PagesArea::pageShown, this, [this](Page shown) {
         if (shown == Page::Summary) {
             saveSettings();
@@ -310,6 +356,14 @@ void PrintDialog::showPrinter(std::shared_ptr<OpenPrinter> printer)
         }
     });
     connect(&open_->settings(), &JobSettings::changed, this, &PrintDialog::updatePreview);
+    connect(
+        &open_->settings(), &JobSettings::changed, this,
+        [this](const QString &key, const QString &value, ChangeOrigin origin) {
+            if (origin == ChangeOrigin::Panel) {
+                panelChose({.key = key, .value = value});
+            }
+        },
+        Qt::QueuedConnection);
     connect(&open_->settings(), &JobSettings::hintChanged, this, &PrintDialog::updatePreview);
     updatePreview();
 }

@@ -99,13 +99,16 @@ public slots:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void makeHeader(QVBoxLayout *column);
     void makeFooter(QVBoxLayout *column);
     // Printers
     void start();
+    void pick(const PrinterChoice &choice);
     void openChoice(const PrinterChoice &choice);
+    void cancelOpening();
     void adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choice);
     void printerFailed(const QString &reason);
     void destinationsFound(const QList<Destination> &destinations);
@@ -117,27 +120,34 @@ private:
     void offerUndo(const QString &text, std::function<void()> undo);
     KeyValues allSet();
     bool reopen(const KeyValues &values, const QStringList &kept);
-    KeyValues currentValues(const KeyValues &changes) const;
     void resetKeys(const QStringList &keys);
     void resetAll();
-    void tellDifferences(const QString &what, const KeyValues &wanted);
+    std::function<void()> undoOf(const KeyValues &before);
+    QString differences(const QString &what, const KeyValues &wanted) const;
+    void panelChose(const KeyValue &choice);
     // Printing
     void print();
     bool findsConflicts();
-    void deliver(std::unique_ptr<Delivery> delivery, const JobTicket &ticket);
+    bool isHandedOver() const;
+    std::unique_ptr<JobRun> deliver(std::unique_ptr<Delivery> delivery, const QueueName &queue);
     void saveAsPdf();
+    void deliverPdf(const QString &path);
     void jobFailed(const QString &reason);
     void jobEnded();
     void setDelivering(bool delivering);
+    void updateEnabled();
 
     DialogParts parts_;
     std::shared_ptr<OpenPrinter> open_{};
     std::unique_ptr<PrinterLoader> loader_;
     std::unique_ptr<DestinationFinder> finder_;
     std::unique_ptr<PreviewRenderer> renderer_;
-    std::unique_ptr<JobRun> run_;
-    PrinterChoice runChoice_{}; ///< where `run_` prints
-    PrinterChoice opening_{};   ///< without name: nothing is being opened
+    std::unique_ptr<JobRun> run_;    ///< of the queue; kept after a failure, for what is still to be sent
+    std::unique_ptr<JobRun> pdfRun_; ///< into a file
+    QString pdfPath_{};              ///< where the last run writes or wrote a PDF file; empty: it was no such run
+    PrinterChoice runChoice_{};      ///< where `run_` prints
+    bool runSeparate_ = false;       ///< each document of `run_` is a job of its own
+    PrinterChoice opening_{};        ///< without name: nothing is being opened
     bool started_ = false;
     bool delivering_ = false;
     bool stopping_ = false;           ///< the user asked to stop the running delivery

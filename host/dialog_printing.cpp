@@ -11,6 +11,8 @@
 #include "printing/text.h"
 #include "settings/conflicts.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -37,11 +39,16 @@ QString suggestedPdf(const QStringList &names)
 
 void PrintDialog::print()
 {
-    if (delivering_ && run_->isHandedOver()) {
+    if (isHandedOver()) {
         accept(); // the job is the server's now, and goes on
         return;
     }
-    if (delivering_ || !open_) {
+    if (delivering_ || !open_ || !opening_.name.isEmpty()) {
+        return;
+    }
+    // What was chosen a moment ago comes first, and what it asks about.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    if (const QWidget *asking = QApplication::activeModalWidget(); asking && asking != this) {
         return;
     }
     if (const QString problem = pages_->problem(); !problem.isEmpty()) {
@@ -57,13 +64,22 @@ void PrintDialog::print()
     if (findsConflicts()) {
         return;
     }
-    if (run_ && run_->canStartAgain() && runChoice_.isSame(picker_->current())) {
+    pdfPath_.clear();
+    const bool isSameWay = runSeparate_ == separate_->isChecked() || (run_ && run_->hasSentSome());
+    if (run_ && run_->canStartAgain() && runChoice_.isSame(picker_->current()) && isSameWay) {
         setDelivering(true);
         run_->start(ticket); // of several jobs those that are still missing
         return;
     }
     runChoice_ = picker_->current();
-    deliver(parts_.makeDelivery(open_->printer(), separate_->isChecked()), ticket);
+    runSeparate_ = separate_->isChecked();
+    run_ = deliver(parts_.makeDelivery(open_->printer(), runSeparate_), open_->printer().queueName());
+    run_->start(ticket);
+}
+
+bool PrintDialog::isHandedOver() const
+{
+    return delivering_ && pdfPath_.isEmpty() && run_ && run_->isHandedOver();
 }
 
 bool PrintDialog::findsConflicts()
@@ -77,11 +93,7 @@ bool PrintDialog::findsConflicts()
         names << TessarinPrint::tr("%1: %2").arg(one.keyText, one.choiceText);
     }
     const KeyValue kept{.key = conflicts.front().key, .value = conflicts.front().choice};
-    KeyValues changes;
-    for (const OptionChoice &change :
-         resolution(open_->printer(), kept.key, kept.value).value_or(QList<OptionChoice>())) {
-        changes << KeyValue{.key = change.key, .value = change.choice};
-    }
+    const KeyValues changes = resolvingChanges(open_->printer(), kept.key, kept.value);
     if (!changes.isEmpty()) {
         offerResolution(kept, conflictReason(open_->printer(), kept.key, kept.value), changes);
         return true;
@@ -97,31 +109,31 @@ bool PrintDialog::findsConflicts()
     return true;
 }
 
-void PrintDialog::deliver(std::unique_ptr<Delivery> delivery, const JobTicket &ticket)
+std::unique_ptr<JobRun> PrintDialog::deliver(std::unique_ptr<Delivery> delivery, const QueueName &queue)
 {
     setDelivering(true);
-    run_ = std::make_unique<JobRun>(std::move(delivery), open_->printer().queueName());
-    connect(run_.get(), &JobRun::progressed, this, [this](qint64 done, qint64 total) {
+    auto run = std::make_unique<JobRun>(std::move(delivery), queue);
+    connect(run.get(), &JobRun::progressed, this, [this](qint64 done, qint64 total) {
         progress_->setRange(0, total > 0 ? kProgressSteps : 0);
         progress_->setValue(total > 0 ? static_cast<int>(done * kProgressSteps / total) : 0);
     });
-    connect(run_.get(), &JobRun::told, status_, &QLabel::setText);
-    connect(run_.get(), &JobRun::handedOver, this, [this] {
+    connect(run.get(), &JobRun::told, status_, &QLabel::setText);
+    connect(run.get(), &JobRun::handedOver, this, [this] {
         progress_->setRange(0, 0);
         rememberPrinter(picker_->current().identity());
         presets_->rememberLastUsed();
         cancel_->setText(TessarinPrint::tr("Cancel Job"));
         print_->setText(TessarinPrint::tr("Close"));
         print_->setToolTip(TessarinPrint::tr("Close the dialog and let the job go on"));
-        print_->setEnabled(true);
+        updateEnabled();
     });
-    connect(run_.get(), &JobRun::ended, this, &PrintDialog::jobEnded);
-    connect(run_.get(), &JobRun::failed, this, &PrintDialog::jobFailed);
-    connect(run_.get(), &JobRun::cancelled, this, [this](const QString &reason) {
+    connect(run.get(), &JobRun::ended, this, &PrintDialog::jobEnded);
+    connect(run.get(), &JobRun::failed, this, &PrintDialog::jobFailed);
+    connect(run.get(), &JobRun::cancelled, this, [this](const QString &reason) {
         setDelivering(false);
         status_->setText(TessarinPrint::tr("Not printed: %1").arg(reason));
     });
-    run_->start(ticket);
+    return run;
 }
 
 void PrintDialog::jobEnded()
@@ -148,7 +160,13 @@ void PrintDialog::jobFailed(const QString &reason)
     box->setInformativeText(TessarinPrint::tr("Your document and settings are kept: you can try again."));
     QPushButton *retry = box->addButton(TessarinPrint::tr("&Retry"), QMessageBox::AcceptRole);
     box->setDefaultButton(retry);
-    connect(retry, &QPushButton::clicked, this, &PrintDialog::print, Qt::QueuedConnection);
+    if (pdfPath_.isEmpty()) {
+        connect(retry, &QPushButton::clicked, this, &PrintDialog::print, Qt::QueuedConnection);
+    } else {
+        connect(
+            retry, &QPushButton::clicked, this, [this, path = pdfPath_] { deliverPdf(path); },
+            Qt::QueuedConnection);
+    }
     if (!parts_.documentPaths.isEmpty()) {
         QPushButton *save = box->addButton(TessarinPrint::tr("&Save as PDF…"), QMessageBox::ActionRole);
         connect(save, &QPushButton::clicked, this, &PrintDialog::saveAsPdf, Qt::QueuedConnection);
@@ -168,16 +186,20 @@ void PrintDialog::saveAsPdf()
     files->setAcceptMode(QFileDialog::AcceptSave);
     files->setDefaultSuffix(QStringLiteral("pdf"));
     files->setAttribute(Qt::WA_DeleteOnClose);
-    connect(files, &QFileDialog::fileSelected, this, [this](const QString &path) {
-        runChoice_ = pdfChoice();
-        deliver(std::make_unique<PdfDelivery>(PdfRequest{.target = path,
-                                                         .layout = layoutOf(open_->settings()),
-                                                         .isSelected = selectedPages(open_->settings()),
-                                                         .title = parts_.documentNames.value(0)},
-                                              parts_.documentPaths),
-                completeTicket());
-    });
+    connect(files, &QFileDialog::fileSelected, this, &PrintDialog::deliverPdf);
     files->open();
+}
+
+void PrintDialog::deliverPdf(const QString &path)
+{
+    const JobTicket ticket = completeTicket();
+    PdfRequest request{.target = path,
+                       .layout = layoutOf(open_->settings()),
+                       .isSelected = selectedPages(open_->settings()),
+                       .title = parts_.documentNames.value(0)};
+    pdfPath_ = path;
+    pdfRun_ = deliver(std::make_unique<PdfDelivery>(std::move(request), parts_.documentPaths), {});
+    pdfRun_->start(ticket);
 }
 
 void PrintDialog::setDelivering(bool delivering)
@@ -187,14 +209,10 @@ void PrintDialog::setDelivering(bool delivering)
     if (delivering) {
         setFocus(); // disabling Print would move the focus to Cancel, and a second Enter would stop the printing
     }
-    print_->setEnabled(!delivering);
     print_->setText(TessarinPrint::tr("&Print"));
     print_->setToolTip(QString());
     cancel_->setText(TessarinPrint::tr("Cancel"));
-    picker_->setEnabled(!delivering);
-    presets_->setEnabled(!delivering);
-    separate_->setEnabled(!delivering);
-    body_->setEnabled(!delivering);
+    updateEnabled();
     progress_->setVisible(delivering);
     progress_->setRange(0, 0);
     if (!delivering) {
@@ -205,6 +223,10 @@ void PrintDialog::setDelivering(bool delivering)
 
 void PrintDialog::reject()
 {
+    if (!delivering_ && open_ && !opening_.name.isEmpty()) {
+        cancelOpening();
+        return;
+    }
     if (!delivering_) {
         loader_->cancel();
         QDialog::reject();
@@ -212,7 +234,16 @@ void PrintDialog::reject()
     }
     stopping_ = true;
     status_->setText(TessarinPrint::tr("Stopping…"));
-    run_->cancel();
+    (pdfPath_.isEmpty() ? run_ : pdfRun_)->cancel();
+}
+
+void PrintDialog::closeEvent(QCloseEvent *event)
+{
+    if (isHandedOver()) {
+        accept(); // who closes the window does not ask for the job's end
+        return;
+    }
+    QDialog::closeEvent(event);
 }
 
 } // namespace tessarin::host

@@ -11,6 +11,7 @@
 
 #include <QMessageBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarin::host {
@@ -56,6 +57,9 @@ JobTicket PrintDialog::completeTicket()
 
 void PrintDialog::choose(const QString &key, const QString &value)
 {
+    if (!open_ || delivering_) {
+        return;
+    }
     const KeyValue wanted{.key = key, .value = value};
     const HostPrinter &printer = open_->printer();
     if (!open_->settings().hasOption(key) || conflictsOf(printer, key, value).isEmpty()) {
@@ -63,12 +67,7 @@ void PrintDialog::choose(const QString &key, const QString &value)
         pages_->refresh();
         return;
     }
-    KeyValues changes;
-    const auto resolved = resolution(printer, key, value);
-    for (const OptionChoice &change : resolved.value_or(QList<OptionChoice>())) {
-        changes << KeyValue{.key = change.key, .value = change.choice};
-    }
-    offerResolution(wanted, conflictReason(printer, key, value), changes);
+    offerResolution(wanted, conflictReason(printer, key, value), resolvingChanges(printer, key, value));
 }
 
 void PrintDialog::offerResolution(const KeyValue &wanted, const QString &reason, const KeyValues &changes)
@@ -89,11 +88,10 @@ void PrintDialog::offerResolution(const KeyValue &wanted, const QString &reason,
         QPushButton *accept = box->addButton(TessarinPrint::tr("&Change Both"), QMessageBox::AcceptRole);
         box->setDefaultButton(accept);
         connect(accept, &QPushButton::clicked, this, [this, wanted, changes] {
-            const KeyValues all = changes + KeyValues{wanted};
-            const KeyValues before = currentValues(all);
-            const QString wrong = applyValues(all);
+            const KeyValues before = allSet();
+            const QString wrong = applyValues(changes + KeyValues{wanted});
             offerUndo(wrong.isEmpty() ? TessarinPrint::tr("Changed, too: %1").arg(listed(*open_, changes)) : wrong,
-                      [this, before] { applyValues(before); });
+                      undoOf(before));
         });
     }
     connect(box, &QMessageBox::finished, this, [this] { pages_->refresh(); });
@@ -127,13 +125,68 @@ bool PrintDialog::reopen(const KeyValues &values, const QStringList &kept)
     return true;
 }
 
-KeyValues PrintDialog::currentValues(const KeyValues &changes) const
+std::function<void()> PrintDialog::undoOf(const KeyValues &before)
 {
-    KeyValues now;
-    for (const KeyValue &change : changes) {
-        now << KeyValue{.key = change.key, .value = open_->settings().value(change.key)};
+    // What the change touched, the panel's own consequences included. What is edited after it stays.
+    struct Touched {
+        QString key{};
+        QString before{};
+        QString after{};
+    };
+    QList<Touched> touched;
+    const auto note = [&](const QString &key, const QString &earlier) {
+        if (const QString now = open_->settings().value(key); now != earlier) {
+            touched << Touched{.key = key, .before = earlier, .after = now};
+        }
+    };
+    QStringList known;
+    const KeyValues now = allSet();
+    for (const KeyValue &one : before) {
+        known << one.key;
+        note(one.key, one.value);
     }
-    return now;
+    for (const KeyValue &one : now) {
+        if (!known.contains(one.key)) {
+            note(one.key, open_->settings().defaultValue(one.key));
+        }
+    }
+    return [this, touched] {
+        saveSettings();
+        KeyValues back;
+        QStringList kept;
+        for (const KeyValue &one : allSet()) {
+            kept << one.key;
+        }
+        bool isKnown = true;
+        for (const Touched &one : touched) {
+            if (open_->settings().value(one.key) == one.after) {
+                back << KeyValue{.key = one.key, .value = one.before};
+                isKnown = isKnown && open_->settings().knows(one.key);
+            }
+        }
+        if (!isKnown) {
+            reopen(back, kept); // which sets them as they came from the command line
+        } else if (const QString wrong = applyValues(back); !wrong.isEmpty()) {
+            notice_->tell(wrong);
+        }
+    };
+}
+
+void PrintDialog::panelChose(const KeyValue &choice)
+{
+    const bool isAsked = std::any_of(children().begin(), children().end(), [](const QObject *child) {
+        const auto *box = qobject_cast<const QMessageBox *>(child);
+        return box && box->isVisible();
+    });
+    if (!open_ || delivering_ || isAsked || open_->settings().value(choice.key) != choice.value) {
+        return;
+    }
+    const HostPrinter &printer = open_->printer();
+    if (conflictsOf(printer, choice.key, choice.value).isEmpty()) {
+        return;
+    }
+    offerResolution(choice, conflictReason(printer, choice.key, choice.value),
+                    resolvingChanges(printer, choice.key, choice.value));
 }
 
 QString PrintDialog::applyValues(const KeyValues &values)
@@ -152,26 +205,18 @@ QString PrintDialog::applyValues(const KeyValues &values)
     return {};
 }
 
-void PrintDialog::tellDifferences(const QString &what, const KeyValues &wanted)
+QString PrintDialog::differences(const QString &what, const KeyValues &wanted) const
 {
-    if (wanted.isEmpty()) {
-        return;
-    }
-    saveSettings();
-    KeyValues missing;
-    for (const KeyValue &one : wanted) {
-        if (open_->settings().value(one.key).compare(one.value, Qt::CaseInsensitive) != 0) {
-            missing << one;
-        }
-    }
-    if (!missing.isEmpty()) {
-        //: %1 says what was tried, %2 lists the settings
-        notice_->tell(TessarinPrint::tr("%1: %2").arg(what, listed(*open_, missing)));
-    }
+    const KeyValues missing = missingOf(*open_, wanted);
+    //: %1 says what was tried, %2 lists the settings
+    return missing.isEmpty() ? QString() : TessarinPrint::tr("%1: %2").arg(what, listed(*open_, missing));
 }
 
 void PrintDialog::applyPreset(const QString &name)
 {
+    if (!open_ || delivering_) {
+        return;
+    }
     const Outcome<KeyValues> values = presets_->valuesOf(name);
     if (!values.ok()) {
         notice_->tell(values.reason());
@@ -182,35 +227,46 @@ void PrintDialog::applyPreset(const QString &name)
     for (const KeyValue &one : before) {
         kept << one.key;
     }
-    if (!reopen(knownValues(open_->settings().sharedPrinter(), values.value()), kept)) {
+    const KeyValues known = knownValues(open_->settings().sharedPrinter(), values.value());
+    if (!reopen(known, kept)) {
         return;
     }
-    offerUndo(TessarinPrint::tr("Preset applied: %1").arg(name), [this, before] { reopen(before, {}); });
-    tellDifferences(TessarinPrint::tr("Preset %1: not possible on this printer now").arg(name), values.value());
+    const QString missing =
+        differences(TessarinPrint::tr("Preset %1: not possible on this printer now").arg(name), known);
+    offerUndo(missing.isEmpty() ? TessarinPrint::tr("Preset applied: %1").arg(name) : missing, undoOf(before));
 }
 
 void PrintDialog::resetKeys(const QStringList &keys)
 {
+    if (!open_ || delivering_) {
+        return;
+    }
+    const KeyValues before = allSet();
     KeyValues defaults;
     for (const QString &key : keys) {
         defaults << KeyValue{.key = key, .value = open_->settings().defaultValue(key)};
     }
-    const KeyValues before = currentValues(defaults);
-    const QString wrong = applyValues(defaults);
-    const bool one = keys.size() == 1;
-    offerUndo(!wrong.isEmpty() ? wrong
-              : one            ? TessarinPrint::tr("Reset to its default: %1").arg(listed(*open_, defaults))
-                               : TessarinPrint::tr("Reset to defaults."),
-              [this, before] { applyValues(before); });
-    tellDifferences(TessarinPrint::tr("Its default is not possible now"), defaults);
+    QString text = applyValues(defaults);
+    if (text.isEmpty()) {
+        saveSettings();
+        text = differences(TessarinPrint::tr("Its default is not possible now"), defaults);
+    }
+    if (text.isEmpty()) {
+        text = keys.size() == 1 ? TessarinPrint::tr("Reset to its default: %1").arg(listed(*open_, defaults))
+                                : TessarinPrint::tr("Reset to defaults.");
+    }
+    offerUndo(text, undoOf(before));
 }
 
 void PrintDialog::resetAll()
 {
+    if (!open_ || delivering_) {
+        return;
+    }
     const KeyValues before = allSet();
     // Which pages and how many belongs to the document at hand, not to the printer's settings.
     if (reopen({}, {QLatin1String(kCopies), QLatin1String(kPageRanges), QLatin1String(kPageSet)})) {
-        offerUndo(TessarinPrint::tr("All settings are at their defaults."), [this, before] { reopen(before, {}); });
+        offerUndo(TessarinPrint::tr("All settings are at their defaults."), undoOf(before));
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "host/general_page.h"
 
-#include "host/wheel_guard.h"
+#include "host/input_guard.h"
 #include "printing/text.h"
 #include "settings/option_catalogue.h"
 #include "settings/page_ranges.h"
@@ -76,7 +76,7 @@ QComboBox *GeneralPage::addAttribute(QFormLayout *form, const QString &caption, 
     auto *box = new QComboBox(this);
     box->setObjectName(name);
     box->setAccessibleName(settingText(settings_, name));
-    guardWheel(*box);
+    guardInput(*box);
     for (const QString &value : values) {
         box->addItem(settingValueText(settings_, name, value), value);
     }
@@ -92,7 +92,7 @@ void GeneralPage::makeCopies(QFormLayout *form)
     copies_->setObjectName(QLatin1String(kCopies));
     copies_->setAccessibleName(TessarinPrint::tr("Copies"));
     copies_->setRange(1, kMostCopies);
-    guardWheel(*copies_);
+    guardInput(*copies_);
     connect(copies_, &QSpinBox::valueChanged, this,
             [this](int copies) { emit chosen(QLatin1String(kCopies), QString::number(copies)); });
     collate_->setObjectName(QLatin1String(kCollate));

@@ -53,7 +53,18 @@ void JobRun::start(const JobTicket &ticket)
 {
     stopping_ = false;
     canStartAgain_ = false;
+    for (const auto &job : jobs_) {
+        if (isFinal(job->state)) {
+            ended_ << job->id;
+        }
+    }
+    jobs_.clear();
     delivery_->start(ticket, [this](const QString &failure) { delivered(failure); });
+}
+
+bool JobRun::isHandedOver() const
+{
+    return std::any_of(jobs_.begin(), jobs_.end(), [](const auto &job) { return !isFinal(job->state); });
 }
 
 void JobRun::cancel()
@@ -81,7 +92,8 @@ void JobRun::delivered(const QString &failure)
         }
         return;
     }
-    const QList<int> ids = delivery_->jobIds();
+    QList<int> ids = delivery_->jobIds();
+    ids.removeIf([this](int id) { return ended_.contains(id); });
     if (queue_.queue.isEmpty() || ids.isEmpty()) {
         emit ended();
         return;
@@ -122,13 +134,18 @@ void JobRun::finishWhenAllHave()
     }
     QStringList aborted;
     QStringList taken;
+    QList<int> lost;
     for (const auto &job : jobs_) {
         if (job->state == JobState::Aborted) {
             aborted << jobStateText(job->id, job->state, job->message);
         } else if (job->state == JobState::Cancelled) {
             taken << jobStateText(job->id, job->state, job->message);
+        } else {
+            continue;
         }
+        lost << job->id;
     }
+    canStartAgain_ = delivery_->sendAgain(lost);
     if (!aborted.isEmpty()) {
         emit failed(aborted.join(u'\n'));
     } else if (!taken.isEmpty()) {

@@ -10,6 +10,7 @@
 #include "printing/delivery.h"
 #include "printing/job_follower.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -30,10 +31,12 @@ public:
     void start(const JobTicket &ticket);
     /// Stops the delivery, or cancels the jobs that run.
     void cancel();
-    /// True after a delivery that failed: starting again sends what is still to be sent, and nothing twice.
+    /// True after a run that failed: starting again sends what is still to be sent, and nothing twice.
     bool canStartAgain() const { return canStartAgain_; }
-    /// True once the server has the jobs: closing the dialog leaves them there.
-    bool isHandedOver() const { return !jobs_.empty(); }
+    /// True when some of the jobs are with the server or were, and did not come to nothing.
+    bool hasSentSome() const { return !delivery_->jobIds().isEmpty(); }
+    /// True while the server has jobs that have not ended: closing the dialog leaves them there.
+    bool isHandedOver() const;
 
 signals:
     /// How far the documents are on their way, in bytes.
@@ -59,7 +62,8 @@ private:
 
     std::unique_ptr<Delivery> delivery_;
     QueueName queue_;
-    std::vector<std::unique_ptr<Job>> jobs_{};
+    std::vector<std::unique_ptr<Job>> jobs_{}; ///< those of the last start
+    QList<int> ended_{};                       ///< numbers of jobs of earlier starts that have ended
     bool stopping_ = false;
     bool canStartAgain_ = false;
 };

@@ -10,6 +10,8 @@
 #include <QEventLoop>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace tessarin::host {
 
 namespace {
@@ -17,18 +19,31 @@ namespace {
 /// The settings that did not come about as they were asked for; empty when all did.
 QString notPossible(const OpenPrinter &printer, const KeyValues &wanted)
 {
+    const KeyValues &refused = printer.refused();
     QStringList texts;
-    for (const KeyValue &one : printer.refused()) {
-        texts << one.key + u'=' + one.value;
+    for (const KeyValue &one : missingOf(printer, wanted)) {
+        const bool impossible = std::any_of(refused.begin(), refused.end(), [&](const KeyValue &other) {
+            return other.key == one.key && other.value == one.value;
+        });
+        texts << (impossible
+                      ? one.key + u'=' + one.value
+                      : TessarinPrint::tr("%1=%2 (with the other settings it is %3)")
+                            .arg(one.key, one.value, printer.settings().value(printer.settings().meant(one).key)));
     }
-    for (const KeyValue &one : wanted) {
-        const QString now = printer.settings().value(one.key);
-        if (printer.settings().hasOption(one.key) && now.compare(one.value, Qt::CaseInsensitive) != 0) {
-            texts << TessarinPrint::tr("%1=%2 (with the other settings it is %3)").arg(one.key, one.value, now);
-        }
-    }
-    texts.removeDuplicates();
     return texts.join(QStringLiteral(", "));
+}
+
+ExitCode codeOf(DeliveryFault fault)
+{
+    switch (fault) {
+    case DeliveryFault::Document:
+        return ExitCode::Document;
+    case DeliveryFault::Output:
+        return ExitCode::Usage;
+    case DeliveryFault::Printer:
+        break;
+    }
+    return ExitCode::Printer;
 }
 
 QString conflictText(const HostPrinter &printer)
@@ -55,13 +70,10 @@ Outcome<std::shared_ptr<OpenPrinter>> openWithValues(const DialogParts &parts)
         }
         values = knownValues(parts.printer, preset.value());
     }
+    const KeyValues wanted = lastOfEach(JobSettings(parts.printer), values + parts.values);
     JobTicket all;
-    for (const KeyValue &one : values + parts.values) {
+    for (const KeyValue &one : wanted) {
         all.set(one.key, one.value);
-    }
-    KeyValues wanted;
-    for (const TicketEntry &entry : all.entries()) {
-        wanted << KeyValue{.key = entry.key, .value = entry.value};
     }
     Outcome<std::shared_ptr<HostPrinter>> printer = parts.printer->again(all.toCupsOptions());
     if (!printer.ok()) {
@@ -94,7 +106,9 @@ RunResult printWithoutDialog(const DialogParts &parts)
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
     loop.exec();
-    result.code = result.reason.isEmpty() ? ExitCode::Printed : ExitCode::Printer;
+    if (!result.reason.isEmpty()) {
+        result.code = codeOf(delivery->fault());
+    }
     for (const int id : delivery->jobIds()) {
         result.output +=
             TessarinPrint::tr("job %1-%2\n").arg(printer.printer().queueName().queue, QString::number(id));

@@ -54,6 +54,32 @@ KeyValues knownValues(const std::shared_ptr<HostPrinter> &printer, const KeyValu
     return known;
 }
 
+KeyValues lastOfEach(const JobSettings &settings, const KeyValues &values)
+{
+    KeyValues last;
+    for (const KeyValue &one : values) {
+        const QString key = settings.meant(one).key;
+        last.removeIf([&](const KeyValue &earlier) {
+            return settings.meant(earlier).key.compare(key, Qt::CaseInsensitive) == 0;
+        });
+        last << one;
+    }
+    return last;
+}
+
+KeyValues missingOf(const OpenPrinter &printer, const KeyValues &wanted)
+{
+    const JobSettings &settings = printer.settings();
+    KeyValues missing;
+    for (const KeyValue &one : lastOfEach(settings, wanted)) {
+        const KeyValue setting = settings.meant(one);
+        if (settings.value(setting.key).compare(setting.value, Qt::CaseInsensitive) != 0) {
+            missing << one;
+        }
+    }
+    return missing;
+}
+
 OpenPrinter::OpenPrinter(std::shared_ptr<HostPrinter> printer, pde::PlugIn *plugIn, const QString &problem,
                          const KeyValues &values)
     : settings_(std::make_shared<JobSettings>(std::move(printer))),

@@ -40,6 +40,13 @@ PanelSession openPanel(pde::PlugIn &plugIn, const std::shared_ptr<DialogCallback
 /// other options is nobody's business.
 KeyValues knownValues(const std::shared_ptr<HostPrinter> &printer, const KeyValues &values);
 
+class OpenPrinter;
+
+/// Of several values of one setting, as command line and presets name it, the last.
+KeyValues lastOfEach(const JobSettings &settings, const KeyValues &values);
+/// The values that a printer, its panel saved, does not have although they were asked for.
+KeyValues missingOf(const OpenPrinter &printer, const KeyValues &wanted);
+
 /// An open printer. A panel's view is given back before the panel goes, by whoever shows it.
 class OpenPrinter {
 public:

@@ -3,8 +3,8 @@
 
 #include "host/option_box.h"
 
+#include "host/input_guard.h"
 #include "host/plain_text.h"
-#include "host/wheel_guard.h"
 #include "printing/text.h"
 #include "settings/conflicts.h"
 
@@ -30,7 +30,7 @@ OptionBox::OptionBox(JobSettings &settings, const CatalogueOption &option, QWidg
     setAccessibleName(option_.text);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(kShortest);
-    guardWheel(*this);
+    guardInput(*this);
     for (const CatalogueChoice &choice : option_.choices) {
         addItem(choice.text, choice.choice);
         setItemData(count() - 1, choice.text, kTextRole);

@@ -33,6 +33,11 @@ PresetMenu::PresetMenu(QWidget *parent) : QPushButton(TessarinPrint::tr("Pre&set
     connect(menu_, &QMenu::aboutToShow, this, &PresetMenu::fill);
 }
 
+QString PresetMenu::defaultsName()
+{
+    return TessarinPrint::tr("Default settings");
+}
+
 QString PresetMenu::lastUsedName()
 {
     return TessarinPrint::tr("Last used");
@@ -72,6 +77,9 @@ Outcome<KeyValues> PresetMenu::valuesOf(const QString &name) const
         return Result::failed(problem_);
     }
     PresetValues found;
+    if (name == defaultsName()) {
+        return KeyValues();
+    }
     if (name == lastUsedName()) {
         found = store_->lastUsed();
     } else if (const std::optional<Preset> preset = store_->preset(name)) {
@@ -94,7 +102,7 @@ void PresetMenu::fill()
     if (!identity_.isEmpty()) {
         read(); // another window may have changed them
     }
-    menu_->addAction(TessarinPrint::tr("Default settings"), this, &PresetMenu::resetRequested);
+    menu_->addAction(defaultsName(), this, &PresetMenu::resetRequested);
     const QString last = lastUsedName();
     menu_->addAction(last, this, [this, last] { emit applyRequested(last); })
         ->setEnabled(store_ && !store_->lastUsed().empty());
@@ -121,7 +129,7 @@ void PresetMenu::fill()
     removing->setEnabled(writable && !presets.isEmpty());
     menu_->addSeparator();
     menu_->addAction(TessarinPrint::tr("Make These &My Defaults"), this, &PresetMenu::makeDefaults)
-        ->setEnabled(!queue_.queue.isEmpty());
+        ->setEnabled(!queue_.queue.isEmpty() && !makingDefaults_);
 }
 
 void PresetMenu::report(const QString &failure, const QString &success)
@@ -204,19 +212,17 @@ void PresetMenu::makeDefaults()
         options.add(key, printer->settings().value(key));
     }
     for (const char *key : {kCollate, kOrientation, kNumberUp}) {
-        if (printer->settings().differsFromDefault(QLatin1String(key))) {
-            options.add(QLatin1String(key), printer->settings().value(QLatin1String(key)));
-        }
+        options.add(QLatin1String(key), printer->settings().value(QLatin1String(key)));
     }
-    setEnabled(false);
+    makingDefaults_ = true;
     auto shared = std::make_shared<CupsOptions>(std::move(options));
     QtConcurrent::run([queue = queue_, shared] {
         return makeUserDefaults(queue, *shared);
-    }).then(this, [this](const Outcome<QString> &file) {
-        setEnabled(true);
+    }).then(this, [this, name = queue_.text()](const Outcome<QString> &file) {
+        makingDefaults_ = false;
         report(file.reason(),
                file.ok() ? TessarinPrint::tr("These settings are your defaults for %1 now, in every program (%2).")
-                               .arg(queue_.text(), file.value())
+                               .arg(name, file.value())
                          : QString());
     });
 }

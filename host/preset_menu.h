@@ -33,13 +33,17 @@ public:
     void setPrinter(const QString &identity, const QueueName &queue);
     /// Where saving finds the printer with all its settings up to date.
     void setValuesSource(std::function<std::shared_ptr<OpenPrinter>()> source);
-    /// The values of a preset, or of the last job for lastUsedName(). The reason of a failure names the preset.
+    /// The values of a preset, of the last job for lastUsedName(), none for defaultsName(). The reason of a failure
+    /// names the preset.
     Outcome<KeyValues> valuesOf(const QString &name) const;
     QStringList names() const;
     /// Keeps the settings of now as those last used.
     void rememberLastUsed();
 
+    static QString defaultsName();
     static QString lastUsedName();
+    /// Why the printer's presets cannot be read; empty when they can.
+    QString problem() const { return problem_; }
 
 signals:
     void applyRequested(const QString &name);
@@ -65,6 +69,7 @@ private:
     QueueName queue_{};
     std::optional<PresetStore> store_{};
     QString problem_{}; ///< why there is no store
+    bool makingDefaults_ = false;
     std::function<std::shared_ptr<OpenPrinter>()> source_{};
 };
 

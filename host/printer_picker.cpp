@@ -3,6 +3,7 @@
 
 #include "host/printer_picker.h"
 
+#include "host/input_guard.h"
 #include "host/line_label.h"
 #include "host/printer_icon.h"
 #include "printing/text.h"
@@ -45,15 +46,14 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 {
     auto *caption = new QLabel(TessarinPrint::tr("P&rinter:"), this);
     caption->setBuddy(list_);
+    guardInput(*list_);
     list_->setObjectName(QStringLiteral("printers"));
     list_->setAccessibleName(TessarinPrint::tr("Printer"));
     list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list_->setMinimumContentsLength(kShortestName);
     connect(list_, &QComboBox::activated, this, [this](int index) {
-        const PrinterChoice choice = choices_.at(index);
-        if (!choice.isSame(current_)) {
-            emit picked(choice);
-        }
+        const PrinterChoice choice = choices_.at(index); // a copy: the list may be filled anew meanwhile
+        emit picked(choice);
     });
     refresh_->setObjectName(QStringLiteral("refresh"));
     refresh_->setIcon(style()->standardIcon(QStyle::SP_BrowserReload));

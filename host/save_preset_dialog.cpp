@@ -3,6 +3,7 @@
 
 #include "host/save_preset_dialog.h"
 
+#include "host/general_page.h"
 #include "printing/text.h"
 #include "settings/preset_store.h"
 
@@ -67,7 +68,7 @@ KeyValues SavePresetDialog::values() const
     const QStringList panelKeys = printer_->panelKeys();
     KeyValues values;
     for (const QString &key : settings.optionKeys()) {
-        const bool isGeneral = key == QLatin1String("PageSize") || key == QLatin1String("Duplex");
+        const bool isGeneral = GeneralPage::optionKeys().contains(key);
         const QCheckBox *box = panelKeys.contains(key) ? panel_ : isGeneral ? general_ : features_;
         if (box->isChecked()) {
             values << KeyValue{.key = key, .value = settings.value(key)};

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -87,8 +88,14 @@ void SummaryPage::makeActions()
     connect(resetAction_, &QAction::triggered, this, &SummaryPage::resetSelected);
     auto *copy = new QAction(TessarinPrint::tr("&Copy"), this);
     connect(copy, &QAction::triggered, this, &SummaryPage::copySelected);
-    tree_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    tree_->addActions({resetAction_, copy});
+    tree_->setContextMenuPolicy(Qt::CustomContextMenu);
+    // The menu waits for nobody: what it resets may replace this page.
+    connect(tree_, &QTreeWidget::customContextMenuRequested, this, [this, copy](const QPoint &place) {
+        auto *menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addActions({resetAction_, copy});
+        menu->popup(tree_->viewport()->mapToGlobal(place));
+    });
 }
 
 QIcon SummaryPage::changedMark() const

@@ -20,6 +20,24 @@ namespace {
 
 constexpr std::size_t kPathBytes = 1024; // as libcups' own path buffers
 
+/// What stands for the description of a printer whose queue has no driver: nothing that could be chosen.
+bool writeBarePpd(const QString &path)
+{
+    static const QByteArray text = "*PPD-Adobe: \"4.3\"\n"
+                                   "*FormatVersion: \"4.3\"\n"
+                                   "*FileVersion: \"1.0\"\n"
+                                   "*LanguageVersion: English\n"
+                                   "*LanguageEncoding: ISOLatin1\n"
+                                   "*PCFileName: \"NODRIVER.PPD\"\n"
+                                   "*Manufacturer: \"None\"\n"
+                                   "*Product: \"(None)\"\n"
+                                   "*ModelName: \"Printer without a driver\"\n"
+                                   "*ShortNickName: \"Printer without a driver\"\n"
+                                   "*NickName: \"Printer without a driver\"\n";
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush();
+}
+
 } // namespace
 
 QueueName QueueName::fromText(const QString &text)
@@ -65,11 +83,13 @@ Outcome<QueueDescription> describeQueue(const QueueName &name)
     time_t modified = 0;
     const http_status_t status =
         cupsGetPPD3(http, name.queue.toUtf8().constData(), &modified, buffer.data(), buffer.size());
-    if (status != HTTP_STATUS_OK) {
-        const QString why = status == HTTP_STATUS_NOT_FOUND
-                                ? TessarinPrint::tr("it has no PPD file (a queue without a driver)")
-                                : TessarinPrint::tr("its PPD file cannot be fetched: %1").arg(lastCupsError());
-        return Result::failed(TessarinPrint::tr("queue %1: %2").arg(name.text(), why));
+    if (status == HTTP_STATUS_NOT_FOUND) {
+        if (!writeBarePpd(queue.ppdPath)) {
+            return Result::failed(TessarinPrint::tr("file %1: it cannot be written").arg(queue.ppdPath));
+        }
+    } else if (status != HTTP_STATUS_OK) {
+        return Result::failed(
+            TessarinPrint::tr("queue %1: its PPD file cannot be fetched: %2").arg(name.text(), lastCupsError()));
     }
     return queue;
 }

@@ -37,6 +37,7 @@ void QueueDelivery::start(const JobTicket &ticket, DeliveryFinished finished)
 {
     if (!ticketFile_.isEmpty()) {
         if (const QString failure = writeTicket(ticket, ticketFile_); !failure.isEmpty()) {
+            fault_ = DeliveryFault::Output;
             finished(failure);
             return;
         }
@@ -50,16 +51,39 @@ void QueueDelivery::start(const JobTicket &ticket, DeliveryFinished finished)
         QMetaObject::invokeMethod(
             &receiver_,
             [this, sent = std::move(sent), finished] {
-                jobIds_ += sent.jobIds;
-                for (std::size_t i = 0; i < sent.documents; ++i) {
-                    printed_ << documents_[i].name;
+                for (const SentJob &job : sent.jobs) {
+                    documents_.erase(documents_.begin(),
+                                     documents_.begin() + static_cast<std::ptrdiff_t>(job.documents.size()));
+                    sent_.push_back(job);
                 }
-                documents_.erase(documents_.begin(),
-                                 documents_.begin() + static_cast<std::ptrdiff_t>(sent.documents));
+                fault_ = sent.fault;
                 finished(withDocuments(sent.failure));
             },
             Qt::QueuedConnection);
     });
+}
+
+QList<int> QueueDelivery::jobIds() const
+{
+    QList<int> ids;
+    for (const SentJob &job : sent_) {
+        ids << job.id;
+    }
+    return ids;
+}
+
+bool QueueDelivery::sendAgain(const QList<int> &jobIds)
+{
+    std::vector<JobDocument> again;
+    std::erase_if(sent_, [&](const SentJob &job) {
+        const bool taken = jobIds.contains(job.id);
+        if (taken) {
+            again.insert(again.end(), job.documents.begin(), job.documents.end());
+        }
+        return taken;
+    });
+    documents_.insert(documents_.begin(), again.begin(), again.end());
+    return !again.empty();
 }
 
 QStringList QueueDelivery::unsent() const
@@ -73,11 +97,17 @@ QStringList QueueDelivery::unsent() const
 
 QString QueueDelivery::withDocuments(const QString &failure) const
 {
-    if (failure.isEmpty() || printed_.isEmpty()) {
+    QStringList printed;
+    for (const SentJob &job : sent_) {
+        for (const JobDocument &document : job.documents) {
+            printed << document.name;
+        }
+    }
+    if (failure.isEmpty() || printed.isEmpty()) {
         return failure;
     }
     return TessarinPrint::tr("%1\nPrinted already: %2\nNot printed: %3")
-        .arg(failure, printed_.join(QStringLiteral(", ")), unsent().join(QStringLiteral(", ")));
+        .arg(failure, printed.join(QStringLiteral(", ")), unsent().join(QStringLiteral(", ")));
 }
 
 QString QueueDelivery::titleOf(const std::vector<JobDocument> &documents) const
@@ -105,20 +135,25 @@ QueueDelivery::Sent QueueDelivery::sendAll(const JobTicket &ticket, const std::v
     };
     const std::size_t perJob = separate_ ? 1 : documents.size();
     Sent sent;
+    std::size_t next = 0;
     do {
-        const auto first = documents.begin() + static_cast<std::ptrdiff_t>(sent.documents);
-        const auto count = static_cast<std::ptrdiff_t>(std::min(perJob, documents.size() - sent.documents));
+        const auto first = documents.begin() + static_cast<std::ptrdiff_t>(next);
+        const auto count = static_cast<std::ptrdiff_t>(std::min(perJob, documents.size() - next));
         JobRequest request{
             .queue = queue_, .documents = {first, first + count}, .ticket = ticket, .sent = observer};
         request.title = titleOf(request.documents);
         const Outcome<int> job = submitJob(request, cancelled_);
         if (!job.ok()) {
+            const bool isReadable =
+                std::all_of(request.documents.begin(), request.documents.end(),
+                            [](const JobDocument &document) { return QFileInfo(document.path).isReadable(); });
+            sent.fault = isReadable ? DeliveryFault::Printer : DeliveryFault::Document;
             sent.failure = job.reason();
             return sent;
         }
-        sent.jobIds << job.value();
-        sent.documents += static_cast<std::size_t>(count);
-    } while (sent.documents < documents.size());
+        sent.jobs.push_back({.id = job.value(), .documents = request.documents});
+        next += static_cast<std::size_t>(count);
+    } while (next < documents.size());
     return sent;
 }
 

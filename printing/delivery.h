@@ -27,6 +27,13 @@ namespace tessarin::host {
 /// on the user-interface thread, possibly before start() returns.
 using DeliveryFinished = std::function<void(const QString &failure)>;
 
+/// What kept a delivery from its end.
+enum class DeliveryFault {
+    Printer,  ///< the queue, its server, or the way there
+    Document, ///< a document that cannot be read
+    Output,   ///< the file that the ticket is to be written to
+};
+
 /// Hears how far a delivery is, on the user-interface thread; the unit is the delivery's own. A total of 0:
 /// unknown.
 using ProgressObserver = std::function<void(qint64 done, qint64 total)>;
@@ -44,6 +51,10 @@ public:
     virtual void cancel() = 0;
     /// The numbers of the jobs that came of the last delivery, as the print server counts them; empty: none did.
     virtual QList<int> jobIds() const { return {}; }
+    /// Has the next start send the documents of these jobs again, which came to nothing. Answers whether it will.
+    virtual bool sendAgain(const QList<int> & /*jobIds*/) { return false; }
+    /// Of the last delivery that failed.
+    virtual DeliveryFault fault() const { return DeliveryFault::Printer; }
     void setProgressObserver(ProgressObserver observer) { observer_ = std::move(observer); }
 
 protected:
@@ -66,6 +77,7 @@ public:
 
     void start(const JobTicket &ticket, DeliveryFinished finished) override;
     void cancel() override {}
+    DeliveryFault fault() const override { return DeliveryFault::Output; }
 
 private:
     QString fileName_;
@@ -93,15 +105,21 @@ public:
     /// The names of the documents that are still to be sent.
     QStringList unsent() const;
     /// The number of the last job that was sent; 0: none yet.
-    int jobId() const { return jobIds_.isEmpty() ? 0 : jobIds_.last(); }
-    QList<int> jobIds() const override { return jobIds_; }
+    int jobId() const { return sent_.empty() ? 0 : sent_.back().id; }
+    QList<int> jobIds() const override;
+    bool sendAgain(const QList<int> &jobIds) override;
+    DeliveryFault fault() const override { return fault_; }
 
 private:
+    struct SentJob {
+        int id = 0;
+        std::vector<JobDocument> documents{};
+    };
     /// What a worker did, handed over to the user-interface thread at its end.
     struct Sent {
-        QList<int> jobIds{};
-        std::size_t documents = 0;
+        std::vector<SentJob> jobs{};
         QString failure{};
+        DeliveryFault fault = DeliveryFault::Printer;
     };
 
     QString withDocuments(const QString &failure) const;
@@ -114,9 +132,9 @@ private:
     bool separate_ = false;
     QString title_{};
     std::atomic<bool> cancelled_ = false;
-    QList<int> jobIds_{};
-    QStringList printed_{}; ///< names of documents that became jobs
-    QObject receiver_{};    ///< lives on the user-interface thread; the worker's end is reported through it
+    std::vector<SentJob> sent_{};
+    DeliveryFault fault_ = DeliveryFault::Printer;
+    QObject receiver_{}; ///< lives on the user-interface thread; the worker's end is reported through it
     std::thread worker_{};
 };
 

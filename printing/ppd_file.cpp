@@ -104,6 +104,34 @@ Outcome<PpdHandle> openPpd(const QString &path, const CupsOptions &numbers)
     return ppd;
 }
 
+namespace {
+
+void addOptions(std::vector<PpdOptionPlace> &all, const ppd_group_t &outer, const ppd_group_t &group)
+{
+    for (int i = 0; i < group.num_options; ++i) {
+        all.push_back({.group = &outer, .option = &group.options[i]});
+    }
+    for (int i = 0; i < group.num_subgroups; ++i) {
+        addOptions(all, outer, group.subgroups[i]);
+    }
+}
+
+} // namespace
+
+std::vector<PpdOptionPlace> optionsOf(const ppd_file_t &ppd)
+{
+    std::vector<PpdOptionPlace> all;
+    for (int i = 0; i < ppd.num_groups; ++i) {
+        addOptions(all, ppd.groups[i], ppd.groups[i]);
+    }
+    return all;
+}
+
+bool isInstalledGroup(const ppd_group_t &group)
+{
+    return qstricmp(group.name, "InstallableOptions") == 0;
+}
+
 QString ppdNickname(const ppd_file_t &ppd)
 {
     const char *name = ppd.nickname ? ppd.nickname : ppd.modelname;

@@ -14,6 +14,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace tessarin::host {
 
@@ -29,6 +30,17 @@ using PpdHandle = std::unique_ptr<ppd_file_t, PpdCloser>;
 /// takes; where one of these settings is a whole number that its option does not list, the number becomes a choice
 /// of the open PPD, so that it can be marked and a panel starts from it.
 Outcome<PpdHandle> openPpd(const QString &path, const CupsOptions &numbers = CupsOptions());
+
+/// An option of a PPD with the group on the first level that it is in.
+struct PpdOptionPlace {
+    const ppd_group_t *group = nullptr; ///< owned by the PPD, as the option
+    const ppd_option_t *option = nullptr;
+};
+/// All options in the PPD's order, those of groups within groups behind the outer group's own.
+std::vector<PpdOptionPlace> optionsOf(const ppd_file_t &ppd);
+
+/// True for the group of what is built into the printer, which is no matter of a job.
+bool isInstalledGroup(const ppd_group_t &group);
 
 /// A whole number as a driver reads it: an optional sign and ASCII digits, nothing else.
 bool isWholeNumber(const QString &text);

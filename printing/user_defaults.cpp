@@ -184,9 +184,14 @@ Outcome<QString> makeUserDefaults(const QueueName &queue, const CupsOptions &opt
     expected[queue.text().toLower()].insert(kept);
     for (int i = 0; i < options.count(); ++i) {
         const cups_option_t &option = options.data()[i];
-        if (isKept(QString::fromUtf8(option.name), QString::fromUtf8(option.value))) {
+        const QString name = QString::fromUtf8(option.name);
+        if (isKept(name, QString::fromUtf8(option.value))) {
             destination->num_options =
                 cupsAddOption(option.name, option.value, destination->num_options, &destination->options);
+        } else if (QByteArrayView(option.value).isEmpty()) {
+            destination->num_options =
+                cupsRemoveOption(option.name, destination->num_options, &destination->options);
+            expected[queue.text().toLower()].insert(name.toLower(), QString());
         }
     }
     const QString ofAllUsers =

@@ -19,8 +19,8 @@ QString userOptionsFile();
 
 /// Makes `options` the user's defaults for a queue or an instance of it, over those that are there. What other
 /// queues and instances have, which queue is the default, and the queue's other options stay, also for queues that
-/// the server does not list at the moment. "copies" is never kept, nor is an option without value. An option whose
-/// value libcups' file cannot hold is refused before anything is written.
+/// the server does not list at the moment. "copies" is never kept; an option without value is one that the user has
+/// no default of any more. An option whose value libcups' file cannot hold is refused before anything is written.
 ///
 /// libcups writes the whole file, so that the old one is first copied to the same name with ".backup" behind it.
 /// What was written is read back; where it is not what was asked for, or another queue's options changed, the old

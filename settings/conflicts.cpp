@@ -18,7 +18,6 @@ namespace {
 
 constexpr char kPageSize[] = "PageSize";
 constexpr char kPageRegion[] = "PageRegion";
-constexpr char kInstalledGroup[] = "InstallableOptions";
 
 /// A list of options that a call of libcups makes.
 struct OptionList {
@@ -138,17 +137,10 @@ void relate(const std::vector<Term> &constraint, const Term &wanted, const Optio
 
 bool isInstalled(const HostPrinter &printer, const QString &key)
 {
-    const ppd_file_t *ppd = printer.ppd();
-    for (int g = 0; g < ppd->num_groups; ++g) {
-        const ppd_group_t &group = ppd->groups[g];
-        ppd_option_t *end = group.options + group.num_options;
-        if (qstricmp(group.name, kInstalledGroup) == 0 &&
-            std::any_of(group.options, end,
-                        [&](const ppd_option_t &one) { return equal(one.keyword, key.toUtf8()); })) {
-            return true;
-        }
-    }
-    return false;
+    const std::vector<PpdOptionPlace> all = optionsOf(*printer.ppd());
+    return std::any_of(all.begin(), all.end(), [&](const PpdOptionPlace &place) {
+        return isInstalledGroup(*place.group) && equal(place.option->keyword, key.toUtf8());
+    });
 }
 
 QString markedChoice(const HostPrinter &printer, const QString &key)
@@ -246,6 +238,15 @@ std::optional<QList<OptionChoice>> resolution(const HostPrinter &printer, const 
     return changes;
 }
 
+KeyValues resolvingChanges(const HostPrinter &printer, const QString &key, const QString &choice)
+{
+    KeyValues changes;
+    for (const OptionChoice &change : resolution(printer, key, choice).value_or(QList<OptionChoice>())) {
+        changes << KeyValue{.key = change.key, .value = change.choice};
+    }
+    return changes;
+}
+
 QList<OptionChoice> presentConflicts(const HostPrinter &printer)
 {
     QList<OptionChoice> conflicts;
@@ -254,16 +255,12 @@ QList<OptionChoice> presentConflicts(const HostPrinter &printer)
     if (ppdConflicts(ppd) == 0) {
         return conflicts;
     }
-    for (int g = 0; g < ppd->num_groups; ++g) {
-        const ppd_group_t &group = ppd->groups[g];
-        QList<OptionChoice> &list = qstricmp(group.name, kInstalledGroup) == 0 ? installed : conflicts;
-        for (int o = 0; o < group.num_options; ++o) {
-            const ppd_option_t &option = group.options[o];
-            if (option.conflicted) {
-                const bool isRegion = equal(option.keyword, kPageRegion);
-                add(list, printer, option.keyword,
-                    markedChoice(printer, QLatin1String(isRegion ? kPageSize : option.keyword)));
-            }
+    for (const PpdOptionPlace &place : optionsOf(*ppd)) {
+        const ppd_option_t &option = *place.option;
+        if (option.conflicted) {
+            const bool isRegion = equal(option.keyword, kPageRegion);
+            add(isInstalledGroup(*place.group) ? installed : conflicts, printer, option.keyword,
+                markedChoice(printer, QLatin1String(isRegion ? kPageSize : option.keyword)));
         }
     }
     return conflicts + installed;

@@ -7,6 +7,7 @@
 #define TESSARIN_SETTINGS_CONFLICTS_H
 
 #include "printing/host_printer.h"
+#include "settings/job_settings.h"
 
 #include <QList>
 #include <QString>
@@ -37,6 +38,8 @@ QString conflictReason(const HostPrinter &printer, const QString &key, const QSt
 /// itself nor the printer's installed hardware. Empty: nothing needs to change. Nothing when it finds no way.
 std::optional<QList<OptionChoice>> resolution(const HostPrinter &printer, const QString &key,
                                               const QString &choice);
+/// The same as settings; none where there is no way or nothing else has to change.
+KeyValues resolvingChanges(const HostPrinter &printer, const QString &key, const QString &choice);
 
 /// The marked choices that are in conflict with each other now, in the PPD's order, the installed hardware last;
 /// empty when all is well.

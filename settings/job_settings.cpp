@@ -6,6 +6,7 @@
 #include "settings/page_ranges.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tessarin::host {
@@ -13,8 +14,9 @@ namespace tessarin::host {
 namespace {
 
 constexpr char kSeparatorText[] = "---separator---";
-constexpr char kInstalledGroup[] = "InstallableOptions";
 constexpr char kColorModel[] = "ColorModel";
+constexpr char kCollateOption[] = "Collate";
+constexpr std::array kGreyWords = {"gray", "grey", "mono", "black"};
 constexpr int kMostCopies = 9999;
 
 const JobAttribute *findAttribute(const QString &key)
@@ -69,6 +71,12 @@ QString sidesOf(const QString &duplex)
     return QStringLiteral("one-sided");
 }
 
+QString collationOf(const QString &collate)
+{
+    return QLatin1String(collate.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0 ? kUncollated
+                                                                                           : kCollated);
+}
+
 /// The PPD's choice for a "sides" attribute; the text itself where it is none.
 QString duplexOf(const QString &sides)
 {
@@ -101,20 +109,19 @@ bool isPossibleAttribute(const char *name, const QString &value)
 JobSettings::JobSettings(std::shared_ptr<HostPrinter> printer) : printer_(std::move(printer))
 {
     const ppd_file_t *ppd = printer_->ppd();
-    for (int g = 0; g < ppd->num_groups; ++g) {
-        const ppd_group_t &group = ppd->groups[g];
-        const bool installed = qstricmp(group.name, kInstalledGroup) == 0;
-        for (int o = 0; o < group.num_options; ++o) {
-            const QString key = QString::fromUtf8(group.options[o].keyword);
-            defaults_.insert(key.toLower(), optionValue(key));
-            if (!installed && key != QLatin1String("PageRegion")) {
-                optionKeys_ << key;
-            }
+    for (const PpdOptionPlace &place : optionsOf(*ppd)) {
+        const QString key = QString::fromUtf8(place.option->keyword);
+        defaults_.insert(key.toLower(), optionValue(key));
+        if (!isInstalledGroup(*place.group) && key != QLatin1String("PageRegion")) {
+            optionKeys_ << key;
         }
     }
     for (const JobAttribute &attribute : jobAttributes()) {
         const QString name = QLatin1String(attribute.name);
         QString value = QLatin1String(attribute.defaultValue);
+        if (name == QLatin1String(kCollate) && hasOption(QLatin1String(kCollateOption))) {
+            value = collationOf(optionValue(QLatin1String(kCollateOption)));
+        }
         // However many copies somebody made a default of, this job gets as many as are asked for.
         if (const auto saved = printer_->savedOptions().value(name); saved && name != QLatin1String(kCopies)) {
             value = checkedAttribute(attribute, *saved).value_or(value);
@@ -163,11 +170,24 @@ bool JobSettings::set(const QString &key, const QString &value, ChangeOrigin ori
     if (key.isEmpty() || key.contains(QChar(u'\0')) || value.contains(QChar(u'\0'))) {
         return false;
     }
+    ppd_option_t *collate = ppdFindOption(printer_->ppd(), kCollateOption);
     if (const JobAttribute *attribute = findAttribute(key)) {
-        return setAttribute(*attribute, value, origin);
+        const bool isSet = setAttribute(*attribute, value, origin);
+        if (isSet && collate && key.compare(QLatin1String(kCollate), Qt::CaseInsensitive) == 0) {
+            setOption(*collate,
+                      value == QLatin1String(kUncollated) ? QStringLiteral("False") : QStringLiteral("True"),
+                      origin);
+        }
+        return isSet;
     }
     ppd_option_t *option = ppdFindOption(printer_->ppd(), key.toUtf8().constData());
-    return option && value != QLatin1String(kSeparatorText) && setOption(*option, value, origin);
+    if (!option || value == QLatin1String(kSeparatorText) || !setOption(*option, value, origin)) {
+        return false;
+    }
+    if (option == collate) {
+        setAttribute(*findAttribute(QLatin1String(kCollate)), collationOf(value), origin);
+    }
+    return true;
 }
 
 bool JobSettings::setOption(ppd_option_t &option, const QString &value, ChangeOrigin origin)
@@ -208,23 +228,38 @@ bool JobSettings::setAttribute(const JobAttribute &attribute, const QString &val
     return true;
 }
 
+KeyValue JobSettings::meant(const KeyValue &written) const
+{
+    const auto is = [&](const char *key) {
+        return written.key.compare(QLatin1String(key), Qt::CaseInsensitive) == 0;
+    };
+    if (hasOption(written.key)) {
+        return written;
+    }
+    if (const JobAttribute *attribute = findAttribute(written.key)) {
+        return {.key = QLatin1String(attribute->name),
+                .value = checkedAttribute(*attribute, written.value).value_or(written.value)};
+    }
+    if (is("media") && hasOption(QStringLiteral("PageSize"))) {
+        return {.key = QStringLiteral("PageSize"), .value = written.value};
+    }
+    if (is("sides") && hasOption(QStringLiteral("Duplex"))) {
+        return {.key = QStringLiteral("Duplex"), .value = duplexOf(written.value)};
+    }
+    if (is("landscape")) {
+        const bool on = written.value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
+        return {.key = QLatin1String(kOrientation), .value = on ? QStringLiteral("4") : QString()};
+    }
+    return written;
+}
+
 bool JobSettings::setAsWritten(const KeyValue &written)
 {
     const auto is = [&](const char *key) {
         return written.key.compare(QLatin1String(key), Qt::CaseInsensitive) == 0;
     };
-    if (hasOption(written.key) || findAttribute(written.key)) {
-        return set(written.key, written.value, ChangeOrigin::Host);
-    }
-    if (is("media") && hasOption(QStringLiteral("PageSize"))) {
-        return set(QStringLiteral("PageSize"), written.value, ChangeOrigin::Host);
-    }
-    if (is("sides") && hasOption(QStringLiteral("Duplex"))) {
-        return set(QStringLiteral("Duplex"), duplexOf(written.value), ChangeOrigin::Host);
-    }
-    if (is("landscape")) {
-        const bool on = written.value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
-        return set(QLatin1String(kOrientation), on ? QStringLiteral("4") : QString(), ChangeOrigin::Host);
+    if (const KeyValue setting = meant(written); knows(setting.key)) {
+        return set(setting.key, setting.value, ChangeOrigin::Host);
     }
     // Colour is the printer's own settings' business; an attribute that says otherwise would overrule them.
     if (is("print-color-mode") || is("ColorModel") || written.key.isEmpty() ||
@@ -247,11 +282,9 @@ void JobSettings::setHint(const QString &key, const QString &value)
 bool JobSettings::isGrey() const
 {
     const QString hint = ticket_.hint(QLatin1String(kColorModel)).value_or(value(QLatin1String(kColorModel)));
-    // The panel says "Gray"; a PPD's own option has other words for it, too.
-    static const QStringList greys = {QStringLiteral("gray"),  QStringLiteral("grayscale"),
-                                      QStringLiteral("kgray"), QStringLiteral("black"),
-                                      QStringLiteral("mono"),  QStringLiteral("monochrome")};
-    return greys.contains(hint.toLower());
+    // The panel says "Gray"; a PPD's own option has words of its own for it: KGray, DeviceGray, BlackWhite, …
+    return std::any_of(kGreyWords.begin(), kGreyWords.end(),
+                       [&](const char *word) { return hint.contains(QLatin1String(word), Qt::CaseInsensitive); });
 }
 
 JobTicket JobSettings::completeTicket() const

@@ -61,7 +61,8 @@ inline constexpr char kNumberUp[] = "number-up";
 /// and is told by changed(). Options that the PPD does not have and values that are not possible are refused.
 ///
 /// Which values an option takes: a choice that the PPD lists, or a whole number that it does not list (an option
-/// set by a slider lists only some of the values that the driver takes). Never the text of a menu separator.
+/// set by a slider lists only some of the values that the driver takes). Never the text of a menu separator. The
+/// PPD's "Collate" and the attribute that says the same follow each other.
 class JobSettings final : public QObject {
     Q_OBJECT
 
@@ -89,6 +90,9 @@ public:
     /// Changes a value and tells of it. Answers whether it was taken. Taking what holds already tells nothing, but
     /// puts it into the ticket.
     bool set(const QString &key, const QString &value, ChangeOrigin origin);
+    /// The setting of this printer that one written on a command line stands for, its value as it would be kept; as
+    /// it stands for what is neither option nor attribute known here.
+    KeyValue meant(const KeyValue &written) const;
     /// Sets what a person wrote on a command line, where the standard attributes stand for options of the PPD
     /// ("media" for PageSize, "sides" for Duplex, "landscape" for the orientation) and anything that is neither
     /// option nor attribute known here goes into the job as it is.

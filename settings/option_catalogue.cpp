@@ -167,21 +167,21 @@ QList<CatalogueGroup> optionCatalogue(const JobSettings &settings, const QString
 {
     QList<CatalogueGroup> groups;
     ppd_file_t *ppd = settings.printer().ppd();
-    for (int g = 0; g < ppd->num_groups; ++g) {
-        const ppd_group_t &listed = ppd->groups[g];
-        CatalogueGroup group{.text = textOf(ppd, "Translation", listed.name, listed.text)};
-        for (int o = 0; o < listed.num_options; ++o) {
-            const QString key = QString::fromUtf8(listed.options[o].keyword);
-            if (!settings.optionKeys().contains(key) || hidden.contains(key, Qt::CaseInsensitive)) {
-                continue;
-            }
-            if (CatalogueOption option = catalogued(ppd, listed.options[o]); option.choices.size() > 1) {
-                group.options << std::move(option);
-            }
+    const ppd_group_t *last = nullptr;
+    for (const PpdOptionPlace &place : optionsOf(*ppd)) {
+        const QString key = QString::fromUtf8(place.option->keyword);
+        if (!settings.optionKeys().contains(key) || hidden.contains(key, Qt::CaseInsensitive)) {
+            continue;
         }
-        if (!group.options.isEmpty()) {
-            groups << group;
+        CatalogueOption option = catalogued(ppd, *place.option);
+        if (option.choices.size() < 2) {
+            continue;
         }
+        if (place.group != last) {
+            last = place.group;
+            groups << CatalogueGroup{.text = textOf(ppd, "Translation", last->name, last->text)};
+        }
+        groups.last().options << std::move(option);
     }
     return groups;
 }

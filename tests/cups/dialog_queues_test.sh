@@ -236,6 +236,88 @@ separate)
     wait_for_end 0
     expect_jobs photo 2
     ;;
+again)
+    # One of two jobs is given up: Retry prints that one, and not the other a second time.
+    printf 'good\n' >"$work/document.txt"
+    printf 'bad\n' >"$work/second.txt"
+    open_dialog --log none --separate-jobs --printer picky "$work/document.txt" "$work/second.txt"
+    wait_for_printer picky
+    keys alt+p
+    wait_for_window 'Not printed'
+    touch "$scheduler/received/mended"
+    keys alt+r           # Retry
+    wait_for_end 0
+    [ "$(sort "$scheduler/received/printed" | tr '\n' ' ')" = 'bad good ' ] ||
+        fail "printed: $(cat "$scheduler/received/printed")"
+    expect_jobs picky 3
+    ;;
+exact)
+    # What a person prints arrives at the filter, every setting as the ticket has it, on a queue of any name.
+    printer=Büro-1
+    open_dialog --log none --ticket "$work/ticket" --printer "$printer" "$work/document.txt"
+    wait_for_printer "$printer"
+    keys alt+1                   # the page General
+    keys alt+c ctrl+a 2          # two copies
+    keys alt+e Down Tab          # the next paper size
+    keys alt+2
+    keys alt+p
+    wait_for_end 0
+    wait_for_job 1
+    received=$scheduler/received/options.1
+    [ "$(tr ' ' '\n' <"$received" | grep -c '^vorn[A-Za-z]*=')" = 31 ] || fail "not 31 settings: $(cat "$received")"
+    [ "$(cat "$scheduler/received/copies.1")" = 2 ] || fail "the copies were lost"
+    grep -qx 'PageSize=A5' "$work/ticket" || fail "the paper was not chosen: $(cat "$work/ticket")"
+    compared=0
+    while IFS= read -r line; do
+        case $line in vorn* | PageSize=* | media=* | number-up=*) ;; *) continue ;; esac
+        grep -qE "(^| )$line( |\$)" "$received" || fail "$line did not arrive: $(cat "$received")"
+        compared=$((compared + 1))
+    done <"$work/ticket"
+    [ $compared -ge 33 ] || fail "only $compared settings were compared"
+    ;;
+gone)
+    # The printer that was asked for is not there: no other one takes its place.
+    open_dialog --log none --printer nowhere "$work/document.txt"
+    window=$(windows --name '^Print' | tail -n 1)
+    sleep 2
+    keys F5
+    sleep 2
+    keys alt+p
+    [ "$(timeout 20 xdotool getwindowname "$window")" = Print ] || fail "another printer opened"
+    expect_jobs photo 0
+    keys Escape
+    wait_for_end 1
+    ;;
+bare)
+    # Without a driver there is little to choose, and printing works.
+    open_on bare
+    keys alt+p
+    wait_for_end 0
+    expect_jobs bare 1
+    ;;
+filter)
+    # The filter fails: the dialog says so and stays until the person has seen it.
+    open_on failing
+    keys alt+p
+    wait_for_jobs failing 1
+    sleep 3
+    kill -0 "$dialog" || fail "the dialog took a failure for a success"
+    press_until "the dialog closes" Escape has_ended
+    wait_for_end 1
+    ;;
+hanging)
+    # The server hangs while the document is sent: Cancel frees the person, and printing again prints once.
+    open_on photo
+    kill -STOP "$scheduler_pid"
+    keys alt+p
+    sleep 1
+    keys Escape
+    sleep 1
+    kill -CONT "$scheduler_pid"
+    press_until "the document is printed" alt+p has_ended
+    wait_for_end 0
+    [ "$(find "$scheduler/received" -name 'document.*' | wc -l)" = 1 ] || fail "it was not printed once"
+    ;;
 silent)
     # A server that hangs holds nobody: the dialog closes at once.
     kill -STOP "$scheduler_pid"

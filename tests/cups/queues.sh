@@ -13,6 +13,9 @@
 #       Büro-1       a name that is not ASCII
 #       slow         its filter waits until $scheduler/received/go exists
 #       broken       its device fails and the job is given up
+#       picky        its device gives documents up that hold the word "bad", until $scheduler/received/mended exists,
+#                    and notes the others in $scheduler/received/printed
+#       bare         has no driver
 #   halt_scheduler             ends the scheduler as a system does, but keeps its folder
 #   resume_scheduler           starts it again
 queues_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -44,7 +47,10 @@ make_queues() {
     printf '#!/bin/sh\nwhile [ ! -e %s/go ]; do sleep 0.1; done\n' "$scheduler/received" | install_filter slow
     printf '#!/bin/sh\n[ $# = 0 ] && exit 0\necho "ERROR: the cable is cut" >&2\nexit 1\n' \
         >"$scheduler/ServerBin/backend/brokendevice"
-    chmod 755 "$scheduler/ServerBin/backend/brokendevice"
+    printf '%s\n' '#!/bin/sh' '[ $# = 0 ] && exit 0' "received=$scheduler/received" 'document=$(cat "${6:--}")' \
+        'case $document in *bad*) [ -e "$received/mended" ] || exit 1 ;; esac' \
+        'echo "$document" >>"$received/printed"' >"$scheduler/ServerBin/backend/pickydevice"
+    chmod 755 "$scheduler/ServerBin/backend/brokendevice" "$scheduler/ServerBin/backend/pickydevice"
     for name in noting failing slow; do
         with_filter "$sample" "$name" >"$ppds/$name.ppd"
     done
@@ -59,6 +65,9 @@ make_queues() {
     add_queue 'odd_name&co' -v file:/dev/null -P "$ppds/noting.ppd"
     add_queue 'Büro-1' -v file:/dev/null -P "$ppds/noting.ppd"
     add_queue slow -v file:/dev/null -P "$ppds/slow.ppd"
+    sed '/^\*cupsFilter/d; s|^\*FormatVersion:.*|&\n*cupsFilter: "text/plain 0 -"|' "$sample" >"$ppds/plain.ppd"
+    add_queue picky -v pickydevice:/1 -P "$ppds/plain.ppd" -o printer-error-policy=abort-job
+    add_queue bare -v file:/dev/null -m raw
     add_queue broken -v brokendevice:/1 -P "$ppds/noting.ppd" -o printer-error-policy=abort-job
 }
 

@@ -257,6 +257,7 @@ TEST_F(DialogChangesTest, KeepsCopiesAndPagesWhenAllElseIsReset)
     dialog_->choose(u"page-ranges"_s, u"2-3"_s);
     dialog_->choose(u"PageSize"_s, u"Letter"_s);
     emit dialog_->pages()->resetAllRequested();
+    QCoreApplication::processEvents();
     EXPECT_EQ(value(u"copies"_s), u"4"_s);
     EXPECT_EQ(value(u"page-ranges"_s), u"2-3"_s);
     EXPECT_EQ(value(u"PageSize"_s), u"A4"_s);

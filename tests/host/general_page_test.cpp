@@ -56,7 +56,7 @@ protected:
 TEST_F(GeneralPageTest, ShowsWhatHolds)
 {
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
-    EXPECT_TRUE(find<QCheckBox>("multiple-document-handling")->isChecked());
+    EXPECT_FALSE(find<QCheckBox>("multiple-document-handling")->isChecked()) << "as the PPD's Collate has it";
     EXPECT_FALSE(find<QCheckBox>("multiple-document-handling")->isEnabled());
     EXPECT_TRUE(find<QRadioButton>("allPages")->isChecked());
     EXPECT_EQ(find<QComboBox>("page-set")->currentText(), u"odd and even pages"_s);
@@ -100,7 +100,7 @@ TEST_F(GeneralPageTest, TellsEveryChoice)
         test::pressKey(*find<QComboBox>(key), Qt::Key_End);
     }
     EXPECT_EQ(told_, (QStringList{u"copies=2"_s, u"copies=25"_s,
-                                  u"multiple-document-handling=separate-documents-uncollated-copies"_s,
+                                  u"multiple-document-handling=separate-documents-collated-copies"_s,
                                   u"page-set=even"_s, u"orientation-requested=5"_s, u"number-up=16"_s}));
     test::pressKey(*find<QComboBox>("PageSize"), Qt::Key_End);
     test::pressKey(*find<QComboBox>("Duplex"), Qt::Key_Down);

@@ -183,5 +183,33 @@ TEST(HostPrinterAgain, ListsNumbersThatAreToBeMarked)
     EXPECT_EQ(again.value()->identifier(), printer->identifier());
 }
 
+TEST_F(JobSettingsTest, KeepsTheTwoWordsForSortedCopiesTogether)
+{
+    const auto printer = HostPrinter::fromPpdFile(test::fixture("pages.ppd"));
+    ASSERT_TRUE(printer.ok());
+    JobSettings settings(printer.value());
+    EXPECT_EQ(settings.value(QLatin1String(kCollate)), QLatin1String(kUncollated)) << "the PPD's default is False";
+    ASSERT_TRUE(settings.set(u"Collate"_s, u"True"_s, ChangeOrigin::Page));
+    EXPECT_EQ(settings.value(QLatin1String(kCollate)), QLatin1String(kCollated));
+    ASSERT_TRUE(settings.set(QLatin1String(kCollate), QLatin1String(kUncollated), ChangeOrigin::Page));
+    const JobTicket ticket = settings.completeTicket();
+    EXPECT_EQ(ticket.value(u"Collate"_s), u"False"_s);
+    EXPECT_EQ(ticket.value(QLatin1String(kCollate)), QLatin1String(kUncollated));
+}
+
+TEST_F(JobSettingsTest, KnowsEveryWordForGrey)
+{
+    for (const char *grey :
+         {"Gray", "KGray", "CMYGray", "DeviceGray", "FastGray", "Grayscale", "BlackWhite", "Mono"}) {
+        settings_->setHint(u"ColorModel"_s, QLatin1String(grey));
+        EXPECT_TRUE(settings_->isGrey()) << grey;
+        EXPECT_EQ(settings_->completeTicket().value(u"print-color-mode"_s), u"monochrome"_s) << grey;
+    }
+    for (const char *colour : {"RGB", "CMYK", "CMY", "DeviceN"}) {
+        settings_->setHint(u"ColorModel"_s, QLatin1String(colour));
+        EXPECT_FALSE(settings_->isGrey()) << colour;
+    }
+}
+
 } // namespace
 } // namespace tessarin::host

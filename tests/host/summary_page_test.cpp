@@ -8,6 +8,7 @@
 #include "tests/host/pages_test_support.h"
 
 #include <QClipboard>
+#include <QMenu>
 
 #include <gtest/gtest.h>
 
@@ -71,8 +72,8 @@ TEST_F(SummaryPageTest, RowsNameAllThatIsSentByItsPage)
         lines(summarySections(*settings_, {u"mediatype"_s, u"Seal"_s, u"Absent"_s}, u"The <b>Panel</b>"_s)),
         (QStringList{
             u"[General]"_s, u"copies|Copies|2|1*"_s,
-            u"multiple-document-handling|Order of copies|collated (1, 2, 3, 1, 2, 3)|"
-            "collated (1, 2, 3, 1, 2, 3)"_s,
+            u"multiple-document-handling|Order of copies|page by page (1, 1, 2, 2, 3, 3)|"
+            "page by page (1, 1, 2, 2, 3, 3)"_s,
             u"page-ranges|Pages|1-3, 8-|all*"_s, u"page-set|Of these|odd and even pages|odd and even pages"_s,
             u"orientation-requested|Orientation|automatic|automatic"_s, u"number-up|Pages per sheet|1|1"_s,
             u"PageSize|Media Size|A4 (210 × 297 mm)|A4 (210 × 297 mm)"_s, u"Duplex|Two-Sided|Off|Off"_s,
@@ -122,10 +123,12 @@ TEST_F(SummaryPageTest, ResetsTheSelectedRowsThatDiffer)
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
         test::pressKey(*tree(), key);
     }
-    auto *action = tree()->actions().value(0);
-    ASSERT_TRUE(action);
-    EXPECT_TRUE(action->isEnabled());
-    action->trigger();
+    emit tree()->customContextMenuRequested(QPoint(5, 5));
+    const auto *menu = page_.findChild<QMenu *>();
+    ASSERT_TRUE(menu);
+    ASSERT_FALSE(menu->actions().isEmpty());
+    EXPECT_TRUE(menu->actions().front()->isEnabled());
+    menu->actions().front()->trigger();
     const QString both = u"Quality Collate"_s;
     EXPECT_EQ(resets_, (QStringList{u"Quality"_s, both, both, both}));
 }

@@ -141,6 +141,7 @@ TEST_F(SummaryDialog, ResetsASliderToItsDefaultAndBack)
     dialog_->saveSettings();
     EXPECT_EQ(dialog_->openPrinter()->settings().value(u"vornBrightness"_s), u"-15"_s);
     emit dialog_->pages()->resetRequested({u"vornBrightness"_s});
+    QCoreApplication::processEvents();
     dialog_->saveSettings();
     EXPECT_EQ(dialog_->openPrinter()->settings().value(u"vornBrightness"_s), u"0"_s);
     auto *undo = dialog_->notice()->findChild<QPushButton *>();

@@ -21,7 +21,7 @@ contains paused "paused|paused|$model||stopped (paused)" "$found"
 contains rejecting 'rejecting|rejecting|Generic PostScript Printer||idle  ·  takes no jobs' "$found"
 contains 'odd name' "odd_name&co|odd_name&co|$model||idle" "$found"
 contains 'name beyond ASCII' "Büro-1|Büro-1|$model||idle" "$found"
-same 'number of destinations' 10 "$(wc -l <<<"$found")"
+same 'number of destinations' 12 "$(wc -l <<<"$found")"
 
 for queue in photo photo/draft 'odd_name&co' Büro-1; do
     same "opening $queue" "${queue%/*}: Tessarin Sample 12, 1.0" "$("$probe" open "$queue")"
@@ -34,8 +34,8 @@ for ((i = 0; i < 200; i++)); do
     echo "lpadmin -p many$i -E -v file:/dev/null 2>/dev/null"
 done | sh
 before=$SECONDS
-same 'number of many destinations' 210 "$("$probe" list | wc -l)"
-[ $((SECONDS - before)) -le 10 ] || fail "listing 210 destinations took $((SECONDS - before)) seconds"
+same 'number of many destinations' 212 "$("$probe" list | wc -l)"
+[ $((SECONDS - before)) -le 60 ] || fail "listing 212 destinations took $((SECONDS - before)) seconds"
 
 # A server that hangs is given up, one that is gone at once.
 kill -STOP "$scheduler_pid"
@@ -48,5 +48,5 @@ halt_scheduler
 answer=$("$probe" list) && fail "a server that is gone was listed"
 same 'server gone' "failed: print server $CUPS_SERVER: it cannot be reached: nothing answers there" "$answer"
 resume_scheduler
-same 'the server is back' 210 "$("$probe" list | wc -l)"
+same 'the server is back' 212 "$("$probe" list | wc -l)"
 echo "passed: the list of queues"

@@ -7,6 +7,7 @@
 #include "printing/destinations.h"
 #include "printing/job_follower.h"
 #include "printing/printer_loader.h"
+#include "tests/printing/silent_server.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -16,12 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <utility>
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace tessarin::host {
 namespace {
@@ -40,40 +35,6 @@ bool waitUntil(const std::function<bool()> &done, qint64 milliseconds)
     }
     return done();
 }
-
-/// A socket on loopback: the system takes connections for it, and nobody reads them.
-class SilentServer {
-public:
-    SilentServer() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
-    {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto *generic = reinterpret_cast<sockaddr *>(&address);
-        if (::bind(socket_, generic, size) == 0 && ::listen(socket_, 64) == 0 &&
-            ::getsockname(socket_, generic, &size) == 0) {
-            port_ = ntohs(address.sin_port);
-        }
-    }
-    ~SilentServer() { close(); }
-    SilentServer(const SilentServer &) = delete;
-    SilentServer &operator=(const SilentServer &) = delete;
-
-    /// From now on connections are refused.
-    void close()
-    {
-        if (socket_ >= 0) {
-            ::close(std::exchange(socket_, -1));
-        }
-    }
-    /// 0: it does not listen.
-    int port() const { return port_; }
-
-private:
-    int socket_;
-    int port_ = 0;
-};
 
 class SilentServerTest : public testing::Test {
 protected:
