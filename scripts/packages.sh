@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The Debian packages that the project needs, to be sourced: one list for building and running, one for testing.
+# The Debian packages that the project needs, to be sourced: one list for building and running, one for testing, one
+# for fuzzing.
 
 build_packages=(
     cmake ninja-build g++
@@ -15,6 +16,7 @@ test_packages=(
     cups cups-client
     clang-format clang-tidy clang-tools libclang-rt-14-dev
 )
+fuzz_packages=(clang)
 
 # missing_packages <package>...: those that are not installed, one a line. Asks the local database only.
 missing_packages() {

@@ -20,6 +20,7 @@ expect() { # status, words of the output, arguments...
 
 expect 0 "./tessarin run [options]" help
 expect 0 "Exit status" --help
+expect 2 "--seconds needs a number" fuzz --no-setup --seconds x
 expect 2 "./tessarin run [options]"
 expect 2 "unknown command fly" fly
 expect 2 "unknown option --fly" --fly
