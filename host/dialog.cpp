@@ -149,6 +149,7 @@ void PrintDialog::makeFooter(QVBoxLayout *column)
     auto *row = new QHBoxLayout;
     row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
     row->addWidget(presets_);
+    row->addSpacing(kSpacing);
     row->addWidget(separate_);
     row->addWidget(status_, 1);
     row->addWidget(progress_);
@@ -345,8 +346,8 @@ void PrintDialog::showPrinter(std::shared_ptr<OpenPrinter> printer)
     placeholder_->hide();
     bodyColumn_->addWidget(pages_, 1);
     updateEnabled();
-    // Queued: a change may bring new pages, and the one that asks for it has not come to its end.
-    connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose, Qt::QueuedConnection);
+    connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose);
+    // Queued: a reset may bring new pages, and the one that asks for it has not come to its end.
     connect(pages_, &PagesArea::resetRequested, this, &PrintDialog::resetKeys, Qt::QueuedConnection);
     connect(pages_, &PagesArea::resetAllRequested, this, &PrintDialog::resetAll, Qt::QueuedConnection);
     connect(pages_, &PagesArea::pageShown, this, [this](Page shown) {

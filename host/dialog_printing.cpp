@@ -39,6 +39,8 @@ QString suggestedPdf(const QStringList &names)
 
 void PrintDialog::print()
 {
+    // What was chosen a moment ago comes first, and what it asks about.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     if (isHandedOver()) {
         accept(); // the job is the server's now, and goes on
         return;
@@ -46,8 +48,6 @@ void PrintDialog::print()
     if (delivering_ || !open_ || !opening_.name.isEmpty()) {
         return;
     }
-    // What was chosen a moment ago comes first, and what it asks about.
-    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     if (const QWidget *asking = QApplication::activeModalWidget(); asking && asking != this) {
         return;
     }

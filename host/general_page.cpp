@@ -3,6 +3,7 @@
 
 #include "host/general_page.h"
 
+#include "host/custom_size_dialog.h"
 #include "host/input_guard.h"
 #include "printing/text.h"
 #include "settings/option_catalogue.h"
@@ -66,7 +67,24 @@ void GeneralPage::addOption(QFormLayout *form, const QString &caption, const cha
     auto *box = new OptionBox(settings_, option, this);
     form->addRow(caption, box);
     connect(box, &OptionBox::chosen, this, &GeneralPage::chosen);
+    if (key == kPageSize && takesCustomSizes(settings_.printer())) {
+        box->offerMore(TessarinPrint::tr("Custom Size…"));
+        connect(box, &OptionBox::moreWanted, this, &GeneralPage::askForSize);
+    }
     options_ << box;
+}
+
+void GeneralPage::askForSize()
+{
+    const QByteArray now = settings_.value(QLatin1String(kPageSize)).toUtf8();
+    const ppd_size_t *size = ppdPageSize(settings_.printer().ppd(), now.constData());
+    auto *dialog = new CustomSizeDialog(
+        settings_.printer(),
+        size ? QSizeF(static_cast<qreal>(size->width), static_cast<qreal>(size->length)) : QSizeF(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { emit chosen(QLatin1String(kPageSize), dialog->choice()); });
+    dialog->open();
 }
 
 QComboBox *GeneralPage::addAttribute(QFormLayout *form, const QString &caption, const char *key,

@@ -47,6 +47,7 @@ signals:
     void chosen(const QString &key, const QString &value);
 
 private:
+    void askForSize();
     void addOption(QFormLayout *form, const QString &caption, const char *key);
     QComboBox *addAttribute(QFormLayout *form, const QString &caption, const char *key, const QStringList &values);
     void makeCopies(QFormLayout *form);

@@ -40,6 +40,14 @@ OptionBox::OptionBox(JobSettings &settings, const CatalogueOption &option, QWidg
     refresh();
 }
 
+void OptionBox::offerMore(const QString &text)
+{
+    addItem(text);
+    setItemData(count() - 1, text, kTextRole);
+    offersMore_ = true;
+    showValue();
+}
+
 void OptionBox::refresh()
 {
     showValue();
@@ -53,15 +61,15 @@ void OptionBox::refresh()
 void OptionBox::showValue()
 {
     const QString value = settings_.value(option_.key);
-    const int listed = static_cast<int>(option_.choices.size());
     const int index = findData(value);
-    if (count() > listed && index != listed) {
-        removeItem(listed);
+    const bool showsAnother = count() > listed() + (offersMore_ ? 1 : 0);
+    if (showsAnother && index != listed()) {
+        removeItem(listed());
     }
     if (index < 0 && !value.isEmpty()) {
         const QString text = choiceText(settings_.printer(), option_.key, value);
-        addItem(text, value);
-        setItemData(listed, text, kTextRole);
+        insertItem(listed(), text, value);
+        setItemData(listed(), text, kTextRole);
     }
     setCurrentIndex(findData(value));
 }
@@ -69,7 +77,12 @@ void OptionBox::showValue()
 void OptionBox::choose(int index)
 {
     const QString choice = itemData(index).toString();
+    const bool more = isMore(index);
     showValue();
+    if (more) {
+        QMetaObject::invokeMethod(this, &OptionBox::moreWanted, Qt::QueuedConnection);
+        return;
+    }
     if (choice != settings_.value(option_.key)) {
         QMetaObject::invokeMethod(
             this, [this, choice] { emit chosen(option_.key, choice); }, Qt::QueuedConnection);
@@ -78,7 +91,7 @@ void OptionBox::choose(int index)
 
 void OptionBox::markConflict(int index)
 {
-    if (index < 0) {
+    if (index < 0 || isMore(index)) {
         return;
     }
     const QString text = itemData(index, kTextRole).toString();

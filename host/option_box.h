@@ -26,6 +26,8 @@ public:
     OptionBox(JobSettings &settings, const CatalogueOption &option, QWidget *parent = nullptr);
 
     const CatalogueOption &option() const { return option_; }
+    /// Adds an entry at the end that is no choice: who picks it is asked for more, which moreWanted() tells.
+    void offerMore(const QString &text);
     /// Shows what holds, and what is in conflict now.
     void refresh();
     void showPopup() override;
@@ -33,11 +35,15 @@ public:
 signals:
     /// Told when the event that chose is over, so that the dialog may replace this widget.
     void chosen(const QString &key, const QString &choice);
+    void moreWanted();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    /// Where a value that is none of the choices is shown, and behind it the entry for more.
+    int listed() const { return static_cast<int>(option_.choices.size()); }
+    bool isMore(int index) const { return offersMore_ && index == count() - 1; }
     void showValue();
     void choose(int index);
     void markConflict(int index);
@@ -45,6 +51,7 @@ private:
 
     JobSettings &settings_;
     CatalogueOption option_;
+    bool offersMore_ = false;
 };
 
 } // namespace tessarin::host

@@ -11,6 +11,7 @@
 #include "tests/printing/silent_server.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
@@ -185,10 +186,46 @@ TEST_F(DialogPrintersTest, TriesTheJobAgainTheWayThatIsChosenThen)
 TEST_F(DialogPrintersTest, PrintsWhatWasChosenInTheSameMoment)
 {
     open(test::fixture("pages.ppd"));
+    auto *sizes = dialog_->findChild<QComboBox *>(u"PageSize"_s);
+    sizes->setCurrentIndex(sizes->findData(u"Letter"_s));
+    emit sizes->activated(sizes->currentIndex());
     emit dialog_->pages()->chosen(u"copies"_s, u"5"_s);
     dialog_->findChild<QPushButton *>(u"print"_s)->click();
     EXPECT_EQ(starts_, 1);
     EXPECT_EQ(value(u"copies"_s), u"5"_s);
+    EXPECT_EQ(value(u"PageSize"_s), u"Letter"_s);
+}
+
+TEST_F(DialogPrintersTest, PrintsOnAPaperOfAnySizeThatThePrinterTakes)
+{
+    open(QStringLiteral(TESSARIN_SAMPLE_PPD));
+    auto *sizes = dialog_->findChild<QComboBox *>(u"PageSize"_s);
+    ASSERT_TRUE(sizes);
+    const int last = sizes->count() - 1;
+    EXPECT_EQ(sizes->itemText(last), u"Custom Size…"_s);
+    sizes->setCurrentIndex(last);
+    emit sizes->activated(last);
+    EXPECT_EQ(sizes->currentData().toString(), value(u"PageSize"_s)) << "until there is a size";
+    ASSERT_TRUE(test::waitFor([&] { return dialog_->findChild<QDialog *>(u"customSize"_s) != nullptr; }));
+    auto *width = dialog_->findChild<QDoubleSpinBox *>(u"customWidth"_s);
+    auto *height = dialog_->findChild<QDoubleSpinBox *>(u"customHeight"_s);
+    EXPECT_EQ(width->minimum(), 88.9) << "252 points";
+    EXPECT_EQ(width->maximum(), 609.6) << "1728 points";
+    EXPECT_EQ(height->maximum(), 5080.0) << "14400 points";
+    EXPECT_NEAR(width->value(), 210, 0.2) << "A4, which is set";
+    width->setValue(305);
+    height->setValue(1200.5);
+    dialog_->findChild<QDialog *>(u"customSize"_s)->accept();
+    ASSERT_TRUE(test::waitFor([&] { return value(u"PageSize"_s).startsWith(u"Custom."_s); }));
+    EXPECT_EQ(value(u"PageSize"_s), u"Custom.305x1200.5mm"_s);
+    EXPECT_EQ(dialog_->completeTicket().value(u"media"_s), u"Custom.305x1200.5mm"_s);
+    sizes = dialog_->findChild<QComboBox *>(u"PageSize"_s);
+    EXPECT_EQ(sizes->currentData().toString(), u"Custom.305x1200.5mm"_s);
+    EXPECT_EQ(sizes->count(), last + 2) << "the size and the entry for another";
+    dialog_->choose(u"PageSize"_s, u"A4"_s);
+    EXPECT_EQ(sizes->count(), last + 1);
+    const PageLayout layout = layoutOf(dialog_->openPrinter()->settings());
+    EXPECT_NEAR(layout.paper.width(), 595, 1);
 }
 
 TEST_F(DialogPrintersTest, AsksBeforeItPrintsAChoiceThatDoesNotFit)
