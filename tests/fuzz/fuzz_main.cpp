@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Runs a fuzzed reader on kept inputs: every file given, and every file of every folder given.
+// Runs a fuzzed reader on kept inputs: every file given, and every file of every folder given. Behind "--damaged"
+// each file comes cut off at every byte, and with every byte turned over.
 
 #include "tests/fuzz/fuzz_support.h"
 
@@ -10,31 +11,68 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
 #include <vector>
+
+namespace {
+
+using Input = std::vector<char>;
+
+std::vector<std::filesystem::path> filesOf(const std::string &path)
+{
+    if (!std::filesystem::is_directory(path)) {
+        return {path};
+    }
+    std::vector<std::filesystem::path> files;
+    for (const auto &entry : std::filesystem::directory_iterator(path)) {
+        files.push_back(entry.path());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+void run(const Input &input)
+{
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
+}
+
+std::size_t runDamaged(Input input)
+{
+    const std::size_t size = input.size();
+    for (std::size_t at = 0; at < size; ++at) {
+        run(Input(input.begin(), input.begin() + static_cast<std::ptrdiff_t>(at)));
+        const char right = input[at];
+        input[at] = static_cast<char>(~static_cast<unsigned char>(right));
+        run(input);
+        input[at] = right;
+    }
+    return 2 * size;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
-    std::vector<std::filesystem::path> files;
-    for (int i = 1; i < argc; ++i) {
-        if (std::filesystem::is_directory(argv[i])) {
-            for (const auto &entry : std::filesystem::directory_iterator(argv[i])) {
-                files.push_back(entry.path());
-            }
-        } else {
-            files.emplace_back(argv[i]);
-        }
-    }
-    std::sort(files.begin(), files.end());
     LLVMFuzzerInitialize(&argc, &argv);
-    for (const auto &path : files) {
-        std::ifstream file(path, std::ios::binary);
-        const std::vector<char> input{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        if (!file.is_open()) {
-            std::fprintf(stderr, "%s: it cannot be read\n", path.c_str());
-            return 1;
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    bool damaged = false;
+    std::size_t inputs = 0;
+    for (const std::string &argument : arguments) {
+        if (argument == "--damaged") {
+            damaged = true;
+            continue;
         }
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
+        for (const std::filesystem::path &path : filesOf(argument)) {
+            std::ifstream file(path, std::ios::binary);
+            const Input input{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+            if (!file.is_open()) {
+                std::fprintf(stderr, "%s: it cannot be read\n", path.c_str());
+                return 1;
+            }
+            run(input);
+            inputs += 1 + (damaged ? runDamaged(input) : 0);
+        }
     }
-    std::printf("%zu inputs\n", files.size());
-    return files.empty() ? 1 : 0;
+    std::printf("%zu inputs\n", inputs);
+    return inputs == 0 ? 1 : 0;
 }
