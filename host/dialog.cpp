@@ -257,11 +257,7 @@ void PrintDialog::adopt(std::shared_ptr<HostPrinter> printer, PrinterChoice choi
     }
     values = lastOfEach(JobSettings(printer), values + parts_.values);
     if (!values.isEmpty()) {
-        JobTicket all;
-        for (const KeyValue &one : values) {
-            all.set(one.key, one.value);
-        }
-        Outcome<std::shared_ptr<HostPrinter>> again = printer->again(all.toCupsOptions());
+        Outcome<std::shared_ptr<HostPrinter>> again = againWith(*printer, values);
         if (!again.ok()) {
             opening_ = choice;
             printerFailed(again.reason());

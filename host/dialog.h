@@ -119,7 +119,7 @@ private:
     void offerResolution(const KeyValue &wanted, const QString &reason, const KeyValues &changes);
     void offerUndo(const QString &text, std::function<void()> undo);
     KeyValues allSet();
-    bool reopen(const KeyValues &values, const QStringList &kept);
+    bool showAgain(const Outcome<std::shared_ptr<OpenPrinter>> &again);
     void resetKeys(const QStringList &keys);
     void resetAll();
     std::function<void()> undoOf(const KeyValues &before);

@@ -113,9 +113,8 @@ KeyValues PrintDialog::allSet()
     return all;
 }
 
-bool PrintDialog::reopen(const KeyValues &values, const QStringList &kept)
+bool PrintDialog::showAgain(const Outcome<std::shared_ptr<OpenPrinter>> &again)
 {
-    const Outcome<std::shared_ptr<OpenPrinter>> again = open_->reopenedWith(values, kept);
     if (!again.ok()) {
         notice_->tell(again.reason());
         return false;
@@ -153,10 +152,6 @@ std::function<void()> PrintDialog::undoOf(const KeyValues &before)
     return [this, touched] {
         saveSettings();
         KeyValues back;
-        QStringList kept;
-        for (const KeyValue &one : allSet()) {
-            kept << one.key;
-        }
         bool isKnown = true;
         for (const Touched &one : touched) {
             if (open_->settings().value(one.key) == one.after) {
@@ -165,7 +160,7 @@ std::function<void()> PrintDialog::undoOf(const KeyValues &before)
             }
         }
         if (!isKnown) {
-            reopen(back, kept); // which sets them as they came from the command line
+            showAgain(open_->reopened(back)); // which sets them as they came from the command line
         } else if (const QString wrong = applyValues(back); !wrong.isEmpty()) {
             notice_->tell(wrong);
         }
@@ -223,12 +218,8 @@ void PrintDialog::applyPreset(const QString &name)
         return;
     }
     const KeyValues before = allSet();
-    QStringList kept;
-    for (const KeyValue &one : before) {
-        kept << one.key;
-    }
     const KeyValues known = knownValues(open_->settings().sharedPrinter(), values.value());
-    if (!reopen(known, kept)) {
+    if (!showAgain(open_->reopened(known))) {
         return;
     }
     const QString missing =
@@ -265,7 +256,8 @@ void PrintDialog::resetAll()
     }
     const KeyValues before = allSet();
     // Which pages and how many belongs to the document at hand, not to the printer's settings.
-    if (reopen({}, {QLatin1String(kCopies), QLatin1String(kPageRanges), QLatin1String(kPageSet)})) {
+    const QStringList kept = {QLatin1String(kCopies), QLatin1String(kPageRanges), QLatin1String(kPageSet)};
+    if (showAgain(open_->reopenedWith({}, kept))) {
         offerUndo(TessarinPrint::tr("All settings are at their defaults."), undoOf(before));
     }
 }

@@ -71,11 +71,7 @@ Outcome<std::shared_ptr<OpenPrinter>> openWithValues(const DialogParts &parts)
         values = knownValues(parts.printer, preset.value());
     }
     const KeyValues wanted = lastOfEach(JobSettings(parts.printer), values + parts.values);
-    JobTicket all;
-    for (const KeyValue &one : wanted) {
-        all.set(one.key, one.value);
-    }
-    Outcome<std::shared_ptr<HostPrinter>> printer = parts.printer->again(all.toCupsOptions());
+    Outcome<std::shared_ptr<HostPrinter>> printer = againWith(*parts.printer, wanted);
     if (!printer.ok()) {
         return Result::failed(printer.reason());
     }

@@ -80,6 +80,24 @@ KeyValues missingOf(const OpenPrinter &printer, const KeyValues &wanted)
     return missing;
 }
 
+QStringList lastingKeys(const JobSettings &settings)
+{
+    QStringList keys = settings.optionKeys();
+    for (const char *key : {kCollate, kOrientation, kNumberUp}) {
+        keys << QLatin1String(key);
+    }
+    return keys;
+}
+
+Outcome<std::shared_ptr<HostPrinter>> againWith(const HostPrinter &printer, const KeyValues &values)
+{
+    JobTicket all;
+    for (const KeyValue &one : values) {
+        all.set(one.key, one.value);
+    }
+    return printer.again(all.toCupsOptions());
+}
+
 OpenPrinter::OpenPrinter(std::shared_ptr<HostPrinter> printer, pde::PlugIn *plugIn, const QString &problem,
                          const KeyValues &values)
     : settings_(std::make_shared<JobSettings>(std::move(printer))),
@@ -150,13 +168,13 @@ Outcome<std::shared_ptr<OpenPrinter>> OpenPrinter::reopenedWith(const KeyValues 
     for (const KeyValue &one : values) {
         all.set(one.key, one.value);
     }
-    Outcome<std::shared_ptr<HostPrinter>> printer = settings_->printer().again(all.toCupsOptions());
-    if (!printer.ok()) {
-        return Result::failed(printer.reason());
-    }
     KeyValues wanted;
     for (const TicketEntry &entry : all.entries()) {
         wanted << KeyValue{.key = entry.key, .value = entry.value};
+    }
+    Outcome<std::shared_ptr<HostPrinter>> printer = againWith(settings_->printer(), wanted);
+    if (!printer.ok()) {
+        return Result::failed(printer.reason());
     }
     return std::make_shared<OpenPrinter>(printer.take(), plugIn_, problem_, wanted);
 }

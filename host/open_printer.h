@@ -47,6 +47,12 @@ KeyValues lastOfEach(const JobSettings &settings, const KeyValues &values);
 /// The values that a printer, its panel saved, does not have although they were asked for.
 KeyValues missingOf(const OpenPrinter &printer, const KeyValues &wanted);
 
+/// The keys of what outlives one job: all options, and the attributes that belong to no document, which are the
+/// order of copies, the orientation and the pages on a side.
+QStringList lastingKeys(const JobSettings &settings);
+/// A printer opened anew, with the whole numbers among these values as choices of its PPD.
+Outcome<std::shared_ptr<HostPrinter>> againWith(const HostPrinter &printer, const KeyValues &values);
+
 /// An open printer. A panel's view is given back before the panel goes, by whoever shows it.
 class OpenPrinter {
 public:

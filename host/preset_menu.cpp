@@ -193,11 +193,8 @@ void PresetMenu::rememberLastUsed()
     }
     PresetValues values;
     const JobSettings &settings = printer->settings();
-    for (const QString &key : settings.optionKeys()) {
+    for (const QString &key : lastingKeys(settings)) {
         values.emplace_back(key, settings.value(key));
-    }
-    for (const char *key : {kCollate, kOrientation, kNumberUp}) {
-        values.emplace_back(QLatin1String(key), settings.value(QLatin1String(key)));
     }
     if (const QString failure = store_->saveLastUsed(values); !failure.isEmpty()) {
         emit told(failure);
@@ -208,11 +205,8 @@ void PresetMenu::makeDefaults()
 {
     const std::shared_ptr<OpenPrinter> printer = source_();
     CupsOptions options;
-    for (const QString &key : printer->settings().optionKeys()) {
+    for (const QString &key : lastingKeys(printer->settings())) {
         options.add(key, printer->settings().value(key));
-    }
-    for (const char *key : {kCollate, kOrientation, kNumberUp}) {
-        options.add(QLatin1String(key), printer->settings().value(QLatin1String(key)));
     }
     makingDefaults_ = true;
     auto shared = std::make_shared<CupsOptions>(std::move(options));

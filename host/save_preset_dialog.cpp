@@ -67,16 +67,11 @@ KeyValues SavePresetDialog::values() const
     const JobSettings &settings = printer_->settings();
     const QStringList panelKeys = printer_->panelKeys();
     KeyValues values;
-    for (const QString &key : settings.optionKeys()) {
-        const bool isGeneral = GeneralPage::optionKeys().contains(key);
+    for (const QString &key : lastingKeys(settings)) {
+        const bool isGeneral = !settings.hasOption(key) || GeneralPage::optionKeys().contains(key);
         const QCheckBox *box = panelKeys.contains(key) ? panel_ : isGeneral ? general_ : features_;
         if (box->isChecked()) {
             values << KeyValue{.key = key, .value = settings.value(key)};
-        }
-    }
-    if (general_->isChecked()) {
-        for (const char *key : {kCollate, kOrientation, kNumberUp}) {
-            values << KeyValue{.key = QLatin1String(key), .value = settings.value(QLatin1String(key))};
         }
     }
     return values;

@@ -66,6 +66,16 @@ has_ended() {
     ! kill -0 "$dialog" 2>/dev/null
 }
 
+# Print fails and says so; the dialog stays, and is left.
+expect_not_printed() {
+    keys alt+p
+    wait_for_window 'Not printed'
+    keys Escape
+    back_to_dialog
+    keys Escape
+    wait_for_end 1
+}
+
 document_is_on_its_way() {
     [ -n "$(find "$scheduler/Spool" -type f -size +1M)" ]
 }
@@ -131,12 +141,7 @@ other-driver)
     ;;
 rejecting)
     open_on rejecting
-    keys alt+p
-    wait_for_window 'Not printed'
-    keys Escape
-    back_to_dialog
-    keys Escape
-    wait_for_end 1
+    expect_not_printed
     expect_jobs rejecting 0
     ;;
 paused)
@@ -153,12 +158,7 @@ paused)
 failing)
     # The job is stopped or given up; the dialog says so and keeps everything.
     open_on broken
-    keys alt+p
-    wait_for_window 'Not printed'
-    keys Escape
-    back_to_dialog
-    keys Escape
-    wait_for_end 1
+    expect_not_printed
     ;;
 cancelled)
     open_on slow
@@ -330,12 +330,7 @@ silent)
 deleted)
     open_on photo
     lpadmin -x photo
-    keys alt+p
-    wait_for_window 'Not printed'
-    keys Escape
-    back_to_dialog
-    keys Escape
-    wait_for_end 1
+    expect_not_printed
     ;;
 changed-ppd)
     # The driver changes under the dialog: what it shows is what is sent.
