@@ -8,6 +8,8 @@
 #include <QDirIterator>
 #include <QWidget>
 
+#include <algorithm>
+
 #include <malloc.h>
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/allocator_interface.h>
@@ -46,41 +48,41 @@ std::size_t heapShare(const void *block)
     return malloc_usable_size(const_cast<void *>(block)) + kBlockHead;
 }
 
-QStringList openDescriptors()
+Names openDescriptors()
 {
     const QDir folder(QStringLiteral("/proc/self/fd"));
-    QStringList leads;
+    Names leads;
     for (const QString &name : folder.entryList(QDir::Files | QDir::System | QDir::NoDotAndDotDot)) {
         const QString target = QFile::symLinkTarget(folder.filePath(name));
         if (!target.endsWith(QLatin1String("/fd"))) { // the listing's own
-            leads << name + QLatin1String(" -> ") + target;
+            leads.push_back((name + QLatin1String(" -> ") + target).toStdString());
         }
     }
     return leads;
 }
 
-QStringList filesIn(const QString &folder)
+Names filesIn(const QString &folder)
 {
-    QStringList names;
+    Names names;
     QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext()) {
-        names << entries.next();
+        names.push_back(entries.next().toStdString());
     }
-    names.sort();
+    std::sort(names.begin(), names.end());
     return names;
 }
 
-QStringList widgetsAlive()
+Names widgetsAlive()
 {
-    QStringList classes;
+    Names classes;
     for (const QWidget *widget : QApplication::allWidgets()) {
-        classes << QLatin1String(widget->metaObject()->className());
+        classes.emplace_back(widget->metaObject()->className());
     }
     for (const QWidget *window : QApplication::topLevelWidgets()) {
-        classes << QLatin1String("window ") + QLatin1String(window->metaObject()->className());
+        classes.push_back(std::string("window ") + window->metaObject()->className());
     }
-    classes.sort();
+    std::sort(classes.begin(), classes.end());
     return classes;
 }
 

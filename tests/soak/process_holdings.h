@@ -7,11 +7,14 @@
 #define TESSARIN_TESTS_SOAK_PROCESS_HOLDINGS_H
 
 #include <QString>
-#include <QStringList>
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace tessarin::test {
+
+using Names = std::vector<std::string>;
 
 /// Bytes of the heap in use, as the allocator counts them.
 std::size_t heapInUse();
@@ -23,13 +26,13 @@ bool heapIsSanitized();
 std::size_t heapShare(const void *block);
 
 /// What each open descriptor leads to, in order.
-QStringList openDescriptors();
+Names openDescriptors();
 
 /// The names of all that lies in a folder, hidden files and folders included, in order.
-QStringList filesIn(const QString &folder);
+Names filesIn(const QString &folder);
 
 /// The classes of all widgets and, marked, of all windows, in order.
-QStringList widgetsAlive();
+Names widgetsAlive();
 
 } // namespace tessarin::test
 
