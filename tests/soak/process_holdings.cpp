@@ -10,43 +10,7 @@
 
 #include <algorithm>
 
-#include <malloc.h>
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
-#endif
-
 namespace tessarin::test {
-
-#if defined(__SANITIZE_ADDRESS__)
-
-constexpr std::size_t kBlockHead = 0; // the sanitizer counts what was asked for
-
-std::size_t heapInUse()
-{
-    return __sanitizer_get_current_allocated_bytes();
-}
-
-#else
-
-constexpr std::size_t kBlockHead = sizeof(std::size_t);
-
-std::size_t heapInUse()
-{
-    malloc_trim(0); // small blocks kept back for reuse count as used until they are merged
-    return mallinfo2().uordblks + mallinfo2().hblkhd;
-}
-
-#endif
-
-bool heapIsSanitized()
-{
-    return kBlockHead == 0;
-}
-
-std::size_t heapShare(const void *block)
-{
-    return malloc_usable_size(const_cast<void *>(block)) + kBlockHead;
-}
 
 Names openDescriptors()
 {

@@ -4,7 +4,7 @@
 #include "tests/soak/record_size.h"
 
 #include "ppd/option_table.h"
-#include "tests/soak/process_holdings.h"
+#include "tests/soak/counted_heap.h"
 
 #include <bit>
 #include <cstring>
