@@ -10,7 +10,7 @@ set -euo pipefail
 
 program=$1
 sample=$2
-jobs=${TESSARIN_SOAK_JOBS:-100}
+jobs=${TESSARIN_SOAK_JOBS:-200}
 senders=4
 queues=(photo 'odd_name&co' Büro-1)
 cups=$(cd "$(dirname "$0")/../cups" && pwd)
@@ -18,8 +18,10 @@ cups=$(cd "$(dirname "$0")/../cups" && pwd)
 . "$cups/queues.sh"
 work=$(mktemp -d)
 trap 'jobs -p | xargs -r kill 2>/dev/null; stop_scheduler; rm -rf "$work"' EXIT
-mkdir -p "$work/home" "$work/etc" "$work/sent" "$work/arrived"
-export HOME=$work/home XDG_CONFIG_HOME=$work/config CUPS_SERVERROOT=$work/etc LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+mkdir -p "$work/home" "$work/etc" "$work/sent"
+mkdir -m 700 "$work/run"
+export HOME=$work/home XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/run CUPS_SERVERROOT=$work/etc
+export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
 unset LPDEST PRINTER
 
 fail() {
@@ -31,6 +33,7 @@ fail() {
 prepare_scheduler() {
     start_scheduler
     make_queues "$sample"
+    # shellcheck disable=SC2154 # set by start_scheduler
     received=$scheduler/received
     sed -i "s|^received=.*|&\necho \"\$1\" >>\"\$received/arrivals\"|" "$scheduler/ServerBin/filter/noting"
     halt_scheduler
@@ -56,7 +59,7 @@ options_of() {
         place=$((place + 1))
     done <"$work/sliders"
     echo "vornNoPrint=$((number / 2 % 2))"
-    echo "vornText=it's job \"$number\" of {$jobs}, a\\b"
+    printf '%s\n' "vornText=it's job \"$number\" of {$jobs}, a\\b"
 }
 
 send_job() { # number, queue
@@ -104,9 +107,9 @@ check_job() { # number, job
 
 prepare_scheduler
 slider_choices >"$work/sliders"
-cut -d' ' -f 1 $work/sliders | tr '\n' ' '
+[ "$(wc -l <"$work/sliders")" -ge 20 ] || fail "the sample printer has too few sliders: $(cat "$work/sliders")"
 printf 'plain\n' >"$work/plain.txt"
-"$program" --no-dialog --log none -d photo "$work/plain.txt"
+"$program" --no-dialog --log none -d photo "$work/plain.txt" >"$work/answer.plain"
 wait_until_idle
 received_options 1 >"$work/plain"
 rm "$received/arrivals"
@@ -118,16 +121,18 @@ for ((sender = 1; sender <= senders; sender++)); do
     pids+=($!)
 done
 for pid in "${pids[@]}"; do
-    wait "$pid" || fail "a sender failed: $(tail -n 3 "$work"/answer.*)"
+    wait "$pid" || fail "a sender failed; the errors are above"
 done
-echo "$jobs jobs sent in $((SECONDS - start)) s"
 wait_until_idle
-echo "and printed in $((SECONDS - start)) s"
+echo "$jobs jobs sent and printed in $((SECONDS - start)) s"
 
-[ "$(wc -l <"$received/arrivals")" = "$jobs" ] || fail "$(wc -l <"$received/arrivals") jobs arrived of $jobs"
 twice=$(sort "$received/arrivals" | uniq -d)
-[ -z "$twice" ] || fail "came twice: $twice"
+[ -z "$twice" ] || fail "these jobs came to the filter twice: $twice"
+arrived=$(wc -l <"$received/arrivals")
+[ "$arrived" = "$jobs" ] || fail "$arrived jobs arrived of $jobs"
 for ((number = 1; number <= jobs; number++)); do
-    check_job "$number" "$(sed -n 's/^job .*-//p' "$work/answer.$number")"
+    job=$(sed -n 's/^job .*-//p' "$work/answer.$number")
+    [ -e "$received/title.$job" ] || fail "letter $number is lost; its job: '$job'"
+    check_job "$number" "$job"
 done
 echo "passed: $jobs jobs as they were sent"
