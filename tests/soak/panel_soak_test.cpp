@@ -174,7 +174,7 @@ TEST_F(PanelSoak, LeavesTheRecordAloneBehind)
         std::cout << name << ": " << bytes << " in " << measured << " cycles, "
                   << static_cast<double>(bytes) / static_cast<double>(measured) << " a cycle\n";
     };
-    tell("heap grown", grown);
+    tell("heapGrown", grown);
     tell("records", explained);
 }
 
