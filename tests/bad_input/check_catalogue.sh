@@ -46,41 +46,45 @@ while IFS= read -r line; do
     problem "${line#!}"
 done < <(grep '^!' "$work/rows" || true)
 sed -i '/^!/d' "$work/rows"
+cut -f 2 "$work/rows" >"$work/areas"
+cut -f 3 "$work/rows" >"$work/inputs"
 
 count=$(wc -l <"$work/rows")
 [ "$count" -ge 80 ] || problem "$count rows, fewer than 80"
 while IFS= read -r input; do
     problem "an input stands twice: $input"
-done < <(cut -f 3 "$work/rows" | tr '[:upper:]' '[:lower:]' | sort | uniq -d)
+done < <(tr '[:upper:]' '[:lower:]' <"$work/inputs" | sort | uniq -d)
 
 for area in "${areas[@]}"; do
-    cut -f 2 "$work/rows" | grep -qxF "$area" || problem "no row of the area: $area"
+    grep -qxF "$area" "$work/areas" || problem "no row of the area: $area"
 done
 while IFS= read -r area; do
-    printf '%s\n' "${areas[@]}" | grep -qxF "$area" || problem "no such area: $area"
-done < <(cut -f 2 "$work/rows" | sort -u)
+    problem "no such area: $area"
+done < <(sort -u "$work/areas" | { grep -vxF -f <(printf '%s\n' "${areas[@]}") || true; })
 
 # The list names each parameter behind the test, with addresses that differ from one build to the next.
 (cd "$build" && "$ctest" -N) >"$work/list" || problem "the tests in $build cannot be listed"
 sed -nE 's/^ *Test +#[0-9]+: //; t name; d; : name; s/ +# (Get|Type)Param\(\) = .*//; p' "$work/list" |
     sort -u >"$work/tests"
 [ -s "$work/tests" ] || problem "no tests are registered in $build"
-while IFS=$'\t' read -r number _ _ _ name; do
-    bare=${name#\`}
-    bare=${bare%\`}
-    [ "$name" = "\`$bare\`" ] || problem "line $number: the test is not between backticks: $name"
-    grep -qxF -- "$bare" "$work/tests" || problem "line $number: no such test: $bare"
-done <"$work/rows"
+while IFS= read -r line; do
+    problem "$line"
+done < <(awk -F'\t' '
+    FNR == NR { registered[$0]; next }
+    $5 !~ /^`[^`]+`$/ { print "line " $1 ": the test is not between backticks: " $5; next }
+    { name = substr($5, 2, length($5) - 2) }
+    !(name in registered) { print "line " $1 ": no such test: " name }
+' "$work/tests" "$work/rows")
 
 files=0
 while IFS= read -r file; do
     files=$((files + 1))
-    cut -f 3 "$work/rows" | grep -qF -- "\`$file\`" || problem "a file that no row names: $file"
+    grep -qF -- "\`$file\`" "$work/inputs" || problem "a file that no row names: $file"
 done < <(cd "$folder" && find . -type f ! -path ./catalogue.md -printf '%P\n' | sort)
 # What a row names in one of the folders is there.
 while IFS= read -r file; do
     [ -f "$folder/$file" ] || problem "a row names a file that is not there: $file"
-done < <(cut -f 3 "$work/rows" | grep -oE '`[a-z-]+/[^`]+`' | tr -d '`' |
+done < <(grep -oE '`[a-z-]+/[^`]+`' "$work/inputs" | tr -d '`' |
     while IFS= read -r file; do [ ! -d "$folder/${file%%/*}" ] || echo "$file"; done)
 
 [ $status = 0 ] && echo "catalogue: $count rows, $files files checked"
