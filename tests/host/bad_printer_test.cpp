@@ -98,6 +98,7 @@ TEST(BadPrinter, ThatIsCompressedAndCutHasTheOptionsBeforeTheCut)
 {
     const auto settings = test::settingsOf(badPpd("compressed-cut.ppd.gz"));
     ASSERT_TRUE(settings);
+    EXPECT_EQ(settings->printer().displayName(), u"Tessarin Test bad, 1.0"_s);
     EXPECT_EQ(settings->value(u"PageSize"_s), u"A4"_s);
     EXPECT_FALSE(settings->hasOption(u"vornResolution"_s));
 }
