@@ -139,6 +139,9 @@ QString contradiction(const CommandLine &line)
     if (!line.ppdFile.isEmpty() && !line.queue.isEmpty()) {
         return TessarinPrint::tr("usage: --ppd and --printer cannot be given together: one printer at a time");
     }
+    if (line.queue.startsWith(u'/')) {
+        return TessarinPrint::tr("usage: --printer %1: no name of a queue").arg(line.queue);
+    }
     if (line.sample && (!line.ppdFile.isEmpty() || !line.queue.isEmpty())) {
         return TessarinPrint::tr("usage: --sample cannot be given with --ppd or --printer: one printer at a time");
     }

@@ -3,6 +3,7 @@
 
 #include "platform/bundle.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,6 +14,20 @@
 #include <utility>
 
 namespace tessarin {
+
+namespace {
+
+/// Whether a translation is not what was installed. The translator follows the lengths in it wherever they lead, so
+/// that one wrong byte could end the host. One that somebody adds comes without a sum.
+bool isDamaged(const QByteArray &content, const QString &sumPath)
+{
+    constexpr qint64 kDigits = 64;
+    QFile sum(sumPath);
+    return QFileInfo(sumPath).isFile() && sum.open(QIODevice::ReadOnly) &&
+           sum.read(kDigits) != QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+}
+
+} // namespace
 
 DirectoryBundle::DirectoryBundle(QString directory, QString identifier)
     : directory_(std::move(directory)), identifier_(std::move(identifier))
@@ -45,9 +60,18 @@ std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory,
 
 bool DirectoryBundle::loadTranslation(const QString &code)
 {
-    const QString file = QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code));
-    // The translator would cut the name short at its underscores until it finds a file.
-    return QFile::exists(file) && translator_.load(file);
+    const QString path = QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code));
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QByteArray content = file.readAll();
+    if (isDamaged(content, path + QStringLiteral(".sha256"))) {
+        return false;
+    }
+    translation_ = content;
+    return translator_.load(reinterpret_cast<const uchar *>(translation_.constData()),
+                            static_cast<int>(translation_.size()));
 }
 
 bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)

@@ -11,6 +11,7 @@
 
 #include "pde/print_dialog_extension.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QTranslator>
 
@@ -44,6 +45,7 @@ private:
 
     QString directory_;
     QString identifier_;
+    QByteArray translation_; ///< which the translator reads where it lies
     QTranslator translator_; ///< asked by key only, never installed: a host's own translations do not interfere
 };
 

@@ -11,10 +11,12 @@ namespace {
 
 constexpr std::size_t kPrintlogBuffer = 128; // characters, terminator included
 
-void replaceAll(std::string &text, std::string_view from, std::string_view to)
+void changeConversions(std::string &format, char from, char to)
 {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from)) {
-        text.replace(at, from.size(), to);
+    for (std::size_t at = 0; at + 1 < format.size(); ++at) {
+        if (format[at] == '%' && format[at + 1] == from) {
+            format[at + 1] = to;
+        }
     }
 }
 
@@ -23,8 +25,8 @@ void replaceAll(std::string &text, std::string_view from, std::string_view to)
 std::string rewriteVerboseFormat(std::string_view format)
 {
     std::string rewritten(format.substr(0, kLongestVerboseFormat));
-    replaceAll(rewritten, "%s", "%@");
-    replaceAll(rewritten, "%S", "%s"); // after the objects, so that a "%S" never becomes one
+    changeConversions(rewritten, 's', '@');
+    changeConversions(rewritten, 'S', 's'); // after the objects, so that a "%S" never becomes one
     return rewritten;
 }
 

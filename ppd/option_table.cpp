@@ -45,9 +45,9 @@ bool appendPair(PPDOptionTable &table, int row, const char *key, const char *tex
     if (row < 0 || static_cast<std::size_t>(row) >= kChoiceRows || count >= kMostPairs) {
         return false;
     }
-    ChoiceRow &slots = table.choiceLists[static_cast<std::size_t>(row)];
-    slots[2 * count + 1] = key;
-    slots[2 * count + 2] = text;
+    ChoiceRow &places = table.choiceLists[static_cast<std::size_t>(row)];
+    places[2 * count + 1] = key;
+    places[2 * count + 2] = text;
     return true;
 }
 
@@ -56,11 +56,11 @@ bool constraintAt(const PPDOptionTable &table, std::size_t place, ConstraintGrou
     if (place >= kMostConstraints) {
         return false;
     }
-    const std::int32_t *slots = &table.constraints[4 * place];
-    if (slots[0] < 0) {
+    const std::int32_t *places = &table.constraints[4 * place];
+    if (places[0] < 0) {
         return false;
     }
-    group = {slots[0], slots[1], slots[2], slots[3]};
+    group = {places[0], places[1], places[2], places[3]};
     return true;
 }
 

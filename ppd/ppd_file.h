@@ -17,7 +17,8 @@ struct PPDCloser {
 };
 using PPDHandle = std::unique_ptr<ppd_file_t, PPDCloser>;
 
-/// Opens and parses the PPD at `path`; null when it cannot be read, is no PPD, or is a pipe or device.
+/// Opens and parses the PPD at `path`; null when it cannot be read, is no PPD, is larger
+/// than kLargestPPD, or is a pipe or device.
 PPDHandle openPPD(const char *path);
 
 } // namespace tessarin

@@ -104,12 +104,15 @@ Outcome<CupsConnection> connectToPrintServer(const Patience &patience)
 Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QString &instance)
 {
     const QByteArray instanceName = instance.toUtf8();
-    CupsDestination destination(
-        cupsGetNamedDest(http, name.toUtf8().constData(), instance.isEmpty() ? nullptr : instanceName.constData()));
-    if (destination) {
+    // libcups takes no name for the default queue, and gives the queue where it does not know the instance.
+    CupsDestination destination(name.isEmpty()
+                                    ? nullptr
+                                    : cupsGetNamedDest(http, name.toUtf8().constData(),
+                                                       instance.isEmpty() ? nullptr : instanceName.constData()));
+    if (destination && (instance.isEmpty() || qstricmp(destination->instance, instanceName.constData()) == 0)) {
         return destination;
     }
-    const ipp_status_t status = cupsLastError();
+    const ipp_status_t status = destination || name.isEmpty() ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
     const bool unknown = status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND;
     const QString why =
         unknown ? TessarinPrint::tr("the print server %1 has no queue of this name").arg(printServerName())

@@ -63,6 +63,18 @@ constexpr std::array kOverruling = {
     "ColorModel",
 };
 
+/// Print servers drop a title with control characters in it.
+QString titleOf(const JobRequest &request)
+{
+    QString title = request.title.isEmpty() ? request.documents.front().name : request.title;
+    for (QChar &character : title) {
+        if (character.category() == QChar::Other_Control) {
+            character = u' ';
+        }
+    }
+    return title;
+}
+
 QString createJob(const JobRequest &request, Transfer &transfer)
 {
     cups_dest_t *destination = transfer.destination.get();
@@ -71,7 +83,7 @@ QString createJob(const JobRequest &request, Transfer &transfer)
         options.remove(QLatin1String(name));
     }
     options.addAll(request.ticket.toCupsOptions());
-    const QByteArray title = (request.title.isEmpty() ? request.documents.front().name : request.title).toUtf8();
+    const QByteArray title = titleOf(request).toUtf8();
     const ipp_status_t status =
         cupsCreateDestJob(transfer.connection.get(), destination, transfer.info.get(), &transfer.jobId,
                           title.constData(), options.count(), options.data());

@@ -3,6 +3,7 @@
 
 #include "printing/ppd_file.h"
 
+#include "cups/ppd_limit.h"
 #include "printing/text.h"
 
 #include <QFile>
@@ -33,6 +34,9 @@ QString unusable(int descriptor)
     }
     if (!S_ISREG(status.st_mode)) {
         return TessarinPrint::tr("it is not a regular file");
+    }
+    if (exceedsLargestPPD(descriptor)) {
+        return TessarinPrint::tr("it is larger than %1 MiB").arg(kLargestPPD / (1024UL * 1024));
     }
     return status.st_size == 0 ? TessarinPrint::tr("the file is empty") : QString();
 }

@@ -5,6 +5,8 @@
 
 #include "printing/text.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
@@ -40,9 +42,19 @@ QString writeTicket(const JobTicket &ticket, const QString &fileName)
     if (fileName.isEmpty() || fileName == QLatin1String("-")) {
         return writeToStandardOutput(text);
     }
+    const auto failed = [&fileName](const QFileDevice &file) {
+        return TessarinPrint::tr("ticket file %1: %2").arg(fileName, file.errorString());
+    };
+    if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
+        // A pipe or device is written to; a file would be put in its place.
+        QFile file(fileName);
+        const bool written =
+            file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size();
+        return written ? QString() : failed(file);
+    }
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        return TessarinPrint::tr("ticket file %1: %2").arg(fileName, file.errorString());
+        return failed(file);
     }
     return {};
 }

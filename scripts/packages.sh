@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The Debian packages that the project needs, to be sourced: one list for building and running, one for testing, one
-# for fuzzing.
+# The Debian packages that the project needs, to be sourced: those for building and running, for the tests, for the
+# checks of the sources, and for fuzzing.
 
 build_packages=(
     cmake ninja-build g++
@@ -11,12 +11,12 @@ build_packages=(
     libcups2-dev zlib1g-dev pkgconf libpoppler-qt6-dev
 )
 test_packages=(
-    libgtest-dev libgmock-dev
+    libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool xauth
     cups cups-client
-    clang-format clang-tidy clang-tools libclang-rt-14-dev
 )
-fuzz_packages=(clang)
+check_packages=(clang-format clang-tidy debootstrap)
+fuzz_packages=(clang llvm libclang-rt-14-dev)
 
 # missing_packages <package>...: those that are not installed, one a line. Asks the local database only.
 missing_packages() {

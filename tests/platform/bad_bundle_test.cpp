@@ -5,6 +5,7 @@
 
 #include "platform/bundle.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -67,6 +68,33 @@ TEST_F(BadBundle, WithATranslationCutAnywhereIsRefusedOrSpeaksEnglish)
         translate(whole.left(size));
         const std::string answer = language();
         EXPECT_TRUE(answer == "(refused)" || answer == "Language" || answer == "de") << size << ": " << answer;
+    }
+}
+
+TEST_F(BadBundle, WithAByteChangedInATranslationWithItsSumIsRefused)
+{
+    QByteArray content = contentOf(QStringLiteral(TESSARIN_TEST_TRANSLATIONS "/TessarinPDE_de.qm"));
+    write(QStringLiteral("translations/TessarinPDE_de.qm.sha256"),
+          QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex() + "  TessarinPDE_de.qm\n");
+    translate(content);
+    ASSERT_EQ(language(), "de");
+    for (char &byte : content) {
+        const char right = byte;
+        byte = static_cast<char>(~byte);
+        translate(content);
+        EXPECT_EQ(language(), "(refused)");
+        byte = right;
+    }
+}
+
+TEST(InstalledTranslations, HaveTheirSums)
+{
+    const QDir folder(QStringLiteral(TESSARIN_TEST_BUNDLE "/translations"));
+    const QStringList translations = folder.entryList({QStringLiteral("*.qm")});
+    ASSERT_FALSE(translations.isEmpty());
+    for (const QString &name : translations) {
+        EXPECT_EQ(contentOf(folder.filePath(name + QStringLiteral(".sha256"))).left(64),
+                  QCryptographicHash::hash(contentOf(folder.filePath(name)), QCryptographicHash::Sha256).toHex());
     }
 }
 

@@ -3,8 +3,10 @@
 
 // What the panel makes of PPD files that are damaged, odd or hostile: its lists, its constraints, its ticket.
 
+#include "cups/ppd_limit.h"
 #include "ppd/constraints.h"
 #include "ppd/keyword_scanner.h"
+#include "ppd/ppd_file.h"
 #include "ppd/ticket.h"
 
 #include "tests/ppd/ppd_test_support.h"
@@ -13,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 
 namespace tessarin::test {
@@ -56,6 +59,25 @@ std::string badPpd(const char *name)
 
 const Pairs kTwoMedia{{"Plain1", "Plain Paper"}, {"Photo6", "Photo Paper"}};
 const Group kPlainWith1200{1, 0, 2, 1};
+
+TEST(BadPpdFile, ThatUnfoldsBeyondTheLargestIsNotOpened)
+{
+    std::string path = "/tmp/tessarin-large-XXXXXX";
+    const int descriptor = mkstemp(path.data());
+    ASSERT_GE(descriptor, 0);
+    for (const bool isLarger : {false, true}) {
+        ASSERT_EQ(lseek(descriptor, 0, SEEK_SET), 0);
+        gzFile file = gzdopen(dup(descriptor), "wb1");
+        const std::string start = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n";
+        gzwrite(file, start.data(), static_cast<unsigned>(start.size()));
+        const std::string lines(kLargestPPD - start.size() + (isLarger ? 1 : 0), '\n');
+        gzwrite(file, lines.data(), static_cast<unsigned>(lines.size()));
+        ASSERT_EQ(gzclose(file), Z_OK);
+        EXPECT_EQ(openPPD(path.c_str()) == nullptr, isLarger);
+    }
+    close(descriptor);
+    unlink(path.c_str());
+}
 
 TEST(BadPpdScan, WithAByteOrderMarkSeesTheLinesBehindIt)
 {

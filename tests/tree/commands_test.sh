@@ -39,4 +39,18 @@ status=0
 output=$(PATH=$bin "$tessarin" setup 2>&1) || status=$?
 [ "$status" = 3 ] && grep -qF "cmake ninja-build" <<<"$output" && grep -qF "no sudo" <<<"$output" ||
     { echo "FAILED: setup without sudo: status $status, $output"; exit 1; }
+
+# The 32-bit system: without the means to make it the command says what it needs.
+export TESSARIN_I386=$bin/system
+status=0
+output=$(PATH=$bin "$tessarin" --no-setup test --32 2>&1) || status=$?
+[ "$status" = 3 ] && grep -qF "in $bin/system" <<<"$output" && grep -qF "needs root" <<<"$output" ||
+    { echo "FAILED: --32 without sudo: status $status, $output"; exit 1; }
+printf '#!/bin/bash\necho 0\n' >"$bin/id"
+printf '#!/bin/bash\necho "E: no such host"\nexit 1\n' >"$bin/debootstrap"
+chmod +x "$bin/debootstrap"
+status=0
+output=$(PATH=$bin:$PATH "$tessarin" --no-setup test --32 2>&1) || status=$?
+[ "$status" = 3 ] && grep -qF "E: no such host" <<<"$output" && grep -qF "is there a network" <<<"$output" ||
+    { echo "FAILED: --32 without network: status $status, $output"; exit 1; }
 echo "passed"

@@ -1,0 +1,69 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# Writes the traces of all golden sessions and of random ones as a build gives them, to be compared with another
+# build's.
+#
+#   replay_traces.sh <folder of the build> <folder for the traces> <how many random sessions>
+set -euo pipefail
+build=$(cd "$1" && pwd)
+traces=$2
+count=$3
+tests=$(cd "$(dirname "$0")/../tests" && pwd)
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+
+remark() { # script, name, what stands for none
+    local value
+    value=$(sed -n "s/^# $2: //p" "$1" | head -n 1)
+    echo "${value:-$3}"
+}
+
+trace() { # name, PPD, script, options...
+    local name=$1 ppd=$2 script=$3 status=0
+    shift 3
+    timeout 120 "$build/bin/tessarin-replay" --stable --ppd "$ppd" "$@" "$script" \
+        >"$traces/$name.trace" 2>"$traces/$name.errors" || status=$?
+    echo "status $status" >>"$traces/$name.trace"
+}
+
+golden() {
+    local script name ppd options
+    cd "$tests/sessions"
+    for script in *.script; do
+        name=${script%.script}
+        ppd=$(remark "$script" ppd sample)
+        case $ppd in
+        sample) ppd=../../examples/tessarin-sample.ppd ;;
+        */*) ;;
+        *) ppd=../fixtures/ppd/$ppd.ppd ;;
+        esac
+        options=$(remark "$script" options "")
+        # shellcheck disable=SC2086 # options are words
+        trace "golden-$name" "$ppd" "$script" ${options/--stable/}
+    done
+}
+
+random() {
+    local number
+    cd "$traces"
+    "$build/tests/write_sessions" . "$count"
+    for ((number = 0; number < count; number++)); do
+        trace "random-$number" "$number.ppd" "$number.script"
+        # One that stops early would prove little.
+        if ! tail -n 1 "random-$number.trace" | grep -qx 'status 0'; then
+            echo "random session $number did not run to its end" >&2
+            cat "random-$number.errors" >&2
+            return 1
+        fi
+    done
+}
+
+rm -rf "$traces"
+mkdir -p "$traces"
+traces=$(cd "$traces" && pwd)
+(golden) &
+pid=$!
+(random)
+wait "$pid"
+echo "$(find "$traces" -name '*.trace' | wc -l) traces"
