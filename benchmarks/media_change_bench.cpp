@@ -4,58 +4,104 @@
 // A person's change of the medium, with all that follows from it, against the bare work on the pop-ups: the items
 // of those that depend on the medium taken out and put in again.
 
-#include "platform/popup_button.h"
-#include "plugin/diagnostics.h"
+#include "controls/menu_items.h"
 #include "tests/support/panel_session.h"
 
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 
 #include <benchmark/benchmark.h>
 
 #include <array>
+#include <set>
+#include <vector>
 
 using namespace tessarin;
 
 namespace {
 
-constexpr int kMediaPopUp = 4501;
+constexpr int kMediaRow = 1;
+constexpr int kRows = 8;
 
-/// The medium's own pop-up and those whose choices depend on it.
-constexpr std::array<std::size_t, 8> kRefilledRows{0, 1, 2, 3, 4, 5, 6, 7};
+/// What a person's choice in the list of media does.
+void chooseMedium(test::PanelSession &session, int index)
+{
+    QComboBox *media = session.popup(kMediaRow);
+    media->setCurrentIndex(index);
+    emit media->activated(index);
+}
 
 void mediaChange(benchmark::State &state)
 {
     test::PanelSession session;
-    QWidget *view = session.open();
-    view->show();
-    Diagnostics diagnostics;
-    int item = 1;
+    session.open()->show();
+    int index = 0;
     for ([[maybe_unused]] auto round : state) {
-        item = item == 1 ? 2 : 1;
-        diagnostics.choose(*session.panel, kMediaPopUp, item);
+        index = index == 0 ? 1 : 0;
+        chooseMedium(session, index);
     }
+}
+
+struct Refill {
+    QComboBox *popup = nullptr; ///< the panel's
+    QStringList texts{};
+    std::vector<int> tags{};
+    int current = 0;
+};
+
+/// What the choice of the medium at `index` fills anew.
+std::vector<Refill> refillsOf(test::PanelSession &session, int index)
+{
+    std::set<int> rows;
+    std::vector<QMetaObject::Connection> connections;
+    for (int row = 0; row < kRows; ++row) {
+        connections.push_back(QObject::connect(session.popup(row)->model(), &QAbstractItemModel::rowsRemoved,
+                                               [&rows, row] { rows.insert(row); }));
+    }
+    chooseMedium(session, index);
+    for (const QMetaObject::Connection &connection : connections) {
+        QObject::disconnect(connection);
+    }
+    std::vector<Refill> refills;
+    for (const int row : rows) {
+        Refill refill{.popup = session.popup(row), .current = session.popup(row)->currentIndex()};
+        for (int item = 0; item < refill.popup->count(); ++item) {
+            refill.texts += refill.popup->itemText(item);
+            refill.tags.push_back(menuItemTag(refill.popup, item));
+        }
+        refills.push_back(refill);
+    }
+    return refills;
+}
+
+void fill(const Refill &refill)
+{
+    const QSignalBlocker blocker(refill.popup);
+    refill.popup->clear();
+    const auto *model = qobject_cast<QStandardItemModel *>(refill.popup->model());
+    for (int item = 0; item < static_cast<int>(refill.tags.size()); ++item) {
+        const int tag = refill.tags[static_cast<std::size_t>(item)];
+        refill.popup->addItem(refill.texts[item], tag);
+        if (tag < 0) {
+            model->item(item)->setFlags(Qt::NoItemFlags);
+        }
+    }
+    refill.popup->setCurrentIndex(refill.current);
 }
 
 void mediaRefills(benchmark::State &state)
 {
     test::PanelSession session;
     session.open()->show();
-    std::array<QStringList, kRefilledRows.size()> texts;
-    for (const std::size_t row : kRefilledRows) {
-        const QComboBox *popup = session.popup(static_cast<int>(row));
-        for (int item = 0; item < popup->count(); ++item) {
-            texts[row] += popup->itemText(item);
-        }
-    }
+    const std::array<std::vector<Refill>, 2> refills{refillsOf(session, 1), refillsOf(session, 0)};
+    std::size_t which = 0;
     for ([[maybe_unused]] auto round : state) {
-        for (const std::size_t row : kRefilledRows) {
-            QComboBox *popup = session.popup(static_cast<int>(row));
-            const QSignalBlocker blocker(popup);
-            popup->clear();
-            popup->addItems(texts[row]);
-            popup->setCurrentIndex(0);
+        for (const Refill &refill : refills[which]) {
+            fill(refill);
         }
+        which = 1 - which;
     }
+    state.counters["pop-ups"] = static_cast<double>(refills[0].size() + refills[1].size()) / 2;
 }
 
 } // namespace

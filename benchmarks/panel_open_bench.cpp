@@ -51,8 +51,7 @@ void panelOpenSyslog(benchmark::State &state)
 
 void panelFloor(benchmark::State &state)
 {
-    const QString path =
-        test::buildBundle()->interfacePath(QStringLiteral("TessarinPDE_C"));
+    const QString path = test::buildBundle()->interfacePath(QStringLiteral("TessarinPDE_C"));
     for ([[maybe_unused]] auto round : state) {
         const test::RecordingHost host(test::samplePPD());
         QFile file(path);

@@ -26,6 +26,8 @@ struct Ratio {
 /// Shows the runs as they come, and keeps the median time of each.
 class MedianReporter : public benchmark::ConsoleReporter {
 public:
+    MedianReporter() : ConsoleReporter(OO_Tabular) {}
+
     void ReportRuns(const std::vector<Run> &runs) override;
 
     /// In nanoseconds; negative for a benchmark that was not run.

@@ -10,6 +10,7 @@
 #include <QStandardItem>
 #include <QStandardItemModel>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace tessarin {
@@ -74,9 +75,7 @@ int DeleteMenuItems(MenuHandle menu, int /*unused*/, int count)
     }
     _VERBOSE("Remove all Items - count=%d\n", count);
     const QSignalBlocker blocker(menu);
-    for (int i = 0; i < count && menu->count() > 0; ++i) {
-        menu->removeItem(0);
-    }
+    menu->model()->removeRows(0, std::min(count, menu->count())); // in one go, since views follow each removal
     return 0;
 }
 

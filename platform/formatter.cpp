@@ -87,29 +87,32 @@ Conversion parseConversion(std::string_view format, std::size_t start)
     return result;
 }
 
-/// `body` in a field of the conversion's width; zeros go between the sign and the digits.
-std::string padded(const Conversion &conversion, const std::string &sign, std::string body, bool zeros)
+/// Adds `body` in a field of the conversion's width; zeros go between the sign and the digits.
+void appendPadded(std::string &line, const Conversion &conversion, std::string_view sign, std::string_view body,
+                  bool zeros)
 {
     const std::size_t length = sign.size() + body.size();
     const auto width = static_cast<std::size_t>(conversion.width);
-    if (length >= width) {
-        return sign + body;
+    const std::size_t fill = width > length ? width - length : 0;
+    if (fill > 0 && !conversion.left && !zeros) {
+        line.append(fill, ' ');
     }
-    if (conversion.left) {
-        return sign + body + std::string(width - length, ' ');
+    line.append(sign);
+    if (fill > 0 && !conversion.left && zeros) {
+        line.append(fill, '0');
     }
-    if (zeros) {
-        return sign + std::string(width - length, '0') + body;
+    line.append(body);
+    if (fill > 0 && conversion.left) {
+        line.append(fill, ' ');
     }
-    return std::string(width - length, ' ') + sign + body;
 }
 
-std::string signText(const Conversion &conversion, bool negative)
+std::string_view signText(const Conversion &conversion, bool negative)
 {
     return negative ? "-" : conversion.plus ? "+" : conversion.blank ? " " : "";
 }
 
-std::string integerText(const Conversion &conversion, long long value)
+void appendInteger(std::string &line, const Conversion &conversion, long long value)
 {
     const bool isSigned = conversion.letter == 'd' || conversion.letter == 'i';
     const bool negative = isSigned && value < 0;
@@ -118,19 +121,22 @@ std::string integerText(const Conversion &conversion, long long value)
     const int base = conversion.letter == 'x' || conversion.letter == 'X' ? 16 : conversion.letter == 'o' ? 8 : 10;
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), magnitude, base).ptr;
-    std::string body(digits.data(), end);
     if (conversion.letter == 'X') {
-        std::transform(body.begin(), body.end(), body.begin(),
+        std::transform(digits.data(), end, digits.data(),
                        [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
     }
-    if (conversion.precision >= 0 && body.size() < static_cast<std::size_t>(conversion.precision)) {
-        body.insert(0, static_cast<std::size_t>(conversion.precision) - body.size(), '0');
+    const std::string_view sign = isSigned ? signText(conversion, negative) : std::string_view();
+    const auto count = static_cast<std::size_t>(end - digits.data());
+    if (conversion.precision >= 0 && count < static_cast<std::size_t>(conversion.precision)) {
+        std::string body(static_cast<std::size_t>(conversion.precision) - count, '0');
+        body.append(digits.data(), count);
+        appendPadded(line, conversion, sign, body, false);
+    } else {
+        appendPadded(line, conversion, sign, {digits.data(), count}, conversion.zero && conversion.precision < 0);
     }
-    return padded(conversion, isSigned ? signText(conversion, negative) : std::string(), std::move(body),
-                  conversion.zero && conversion.precision < 0);
 }
 
-std::string realText(const Conversion &conversion, double value)
+void appendReal(std::string &line, const Conversion &conversion, double value)
 {
     const int precision = std::min(conversion.precision < 0 ? 6 : conversion.precision, 100);
     const std::chars_format form = conversion.letter == 'e'   ? std::chars_format::scientific
@@ -140,46 +146,69 @@ std::string realText(const Conversion &conversion, double value)
     const bool negative = value < 0;
     const auto result =
         std::to_chars(digits.data(), digits.data() + digits.size(), negative ? -value : value, form, precision);
-    return padded(conversion, signText(conversion, negative), std::string(digits.data(), result.ptr),
-                  conversion.zero);
+    appendPadded(line, conversion, signText(conversion, negative),
+                 {digits.data(), static_cast<std::size_t>(result.ptr - digits.data())}, conversion.zero);
 }
 
-std::string stringText(const Conversion &conversion, std::string_view text)
+void appendString(std::string &line, const Conversion &conversion, std::string_view text)
 {
     if (conversion.precision >= 0) {
         text = text.substr(0, static_cast<std::size_t>(conversion.precision));
     }
-    return padded(conversion, {}, std::string(text), false);
+    appendPadded(line, conversion, {}, text, false);
 }
 
-/// The text of one conversion, or nothing when the argument is of another kind.
-std::optional<std::string> convert(const Conversion &conversion, const FormatArgument::Value &value)
+bool appendIntegerArgument(std::string &line, const Conversion &conversion, const FormatArgument::Value &value)
 {
-    if (std::strchr("diuxXo", conversion.letter) != nullptr) {
-        if (const auto *integer = std::get_if<long long>(&value)) {
-            return integerText(conversion, *integer);
-        }
-        if (const auto *handle = std::get_if<HandleNumber>(&value)) {
-            return integerText(conversion, stableAddresses ? 0 : static_cast<std::int32_t>(handle->handle));
-        }
-    } else if (std::strchr("feg", conversion.letter) != nullptr) {
-        if (const auto *real = std::get_if<double>(&value)) {
-            return realText(conversion, *real);
-        }
-    } else if (conversion.letter == 's') {
-        if (const auto *text = std::get_if<const char *>(&value)) {
-            return stringText(conversion, *text != nullptr ? *text : "(null)");
-        }
-    } else if (conversion.letter == '@') {
-        if (const auto *object = std::get_if<ObjectText>(&value)) {
-            return object->description.value_or("(null)");
-        }
-    } else if (conversion.letter == 'p') {
-        if (const auto *pointer = std::get_if<const void *>(&value)) {
-            return stringText(conversion, addressText(*pointer));
-        }
+    if (const auto *integer = std::get_if<long long>(&value)) {
+        appendInteger(line, conversion, *integer);
+        return true;
     }
-    return std::nullopt;
+    if (const auto *handle = std::get_if<HandleNumber>(&value)) {
+        appendInteger(line, conversion, stableAddresses ? 0 : static_cast<std::int32_t>(handle->handle));
+        return true;
+    }
+    return false;
+}
+
+/// Adds the text of one conversion; false when the argument is of another kind.
+bool appendConverted(std::string &line, const Conversion &conversion, const FormatArgument::Value &value)
+{
+    switch (conversion.letter) {
+    case 's':
+        if (const auto *text = std::get_if<const char *>(&value)) {
+            appendString(line, conversion, *text != nullptr ? *text : "(null)");
+            return true;
+        }
+        return false;
+    case '@':
+        if (const auto *object = std::get_if<ObjectText>(&value)) {
+            line.append(object->description ? std::string_view(*object->description) : "(null)");
+            return true;
+        }
+        return false;
+    case 'p':
+        if (const auto *pointer = std::get_if<const void *>(&value)) {
+            appendString(line, conversion, addressText(*pointer));
+            return true;
+        }
+        return false;
+    case 'f':
+    case 'e':
+    case 'g':
+        if (const auto *real = std::get_if<double>(&value)) {
+            appendReal(line, conversion, *real);
+            return true;
+        }
+        return false;
+    default:
+        return appendIntegerArgument(line, conversion, value);
+    }
+}
+
+bool isOurs(char letter)
+{
+    return letter != '\0' && std::strchr("diuxXofegs@p", letter) != nullptr;
 }
 
 } // namespace
@@ -200,14 +229,11 @@ std::string formatText(std::string_view format, std::span<const FormatArgument> 
         at = percent + conversion.text.size();
         if (conversion.text == "%%") {
             line += '%';
-        } else if (conversion.letter == '\0' || std::strchr("diuxXofegs@p", conversion.letter) == nullptr) {
+        } else if (!isOurs(conversion.letter)) {
             // Not a conversion of ours: the "%" is text, and what follows it may hold a conversion again.
             line += '%';
             at = percent + 1;
-        } else if (next < arguments.size()) {
-            line += convert(conversion, arguments[next].value()).value_or(std::string(conversion.text));
-            ++next;
-        } else {
+        } else if (next >= arguments.size() || !appendConverted(line, conversion, arguments[next++].value())) {
             line += conversion.text;
         }
     }

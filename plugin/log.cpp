@@ -11,12 +11,14 @@ namespace {
 
 constexpr std::size_t kPrintlogBuffer = 128; // characters, terminator included
 
-void changeConversions(std::string &format, char from, char to)
+/// Adds a plain function's format as rewriteVerboseFormat() has it.
+void appendRewritten(std::string &line, std::string_view format)
 {
-    for (std::size_t at = 0; at + 1 < format.size(); ++at) {
-        if (format[at] == '%' && format[at + 1] == from) {
-            format[at + 1] = to;
-        }
+    const std::string_view used = format.substr(0, kLongestVerboseFormat);
+    char before = '\0';
+    for (const char letter : used) {
+        line += before != '%' ? letter : letter == 's' ? '@' : letter == 'S' ? 's' : letter;
+        before = letter;
     }
 }
 
@@ -24,9 +26,8 @@ void changeConversions(std::string &format, char from, char to)
 
 std::string rewriteVerboseFormat(std::string_view format)
 {
-    std::string rewritten(format.substr(0, kLongestVerboseFormat));
-    changeConversions(rewritten, 's', '@');
-    changeConversions(rewritten, 'S', 's'); // after the objects, so that a "%S" never becomes one
+    std::string rewritten;
+    appendRewritten(rewritten, format);
     return rewritten;
 }
 
@@ -44,7 +45,11 @@ void logMethodLine(std::string_view tag, const ObjectText &object, std::string_v
 
 void logVerboseLine(std::string_view format, std::span<const FormatArgument> arguments)
 {
-    logMethodLine("LOG", {}, rewriteVerboseFormat(format), arguments);
+    std::string joined;
+    joined.reserve(4 + format.size());
+    joined += "LOG ";
+    appendRewritten(joined, format);
+    writeLogLine(formatText(joined, arguments));
 }
 
 void Printlog(const char *text)

@@ -97,9 +97,6 @@ public:
         if (target.exists() && !target.isFile()) {
             return atTarget(TessarinPrint::tr("it is not a regular file"));
         }
-        if (target.exists() && !target.isFile() && !target.isDir()) {
-            return atTarget(TessarinPrint::tr("it is not a regular file")); // a file would be put in its place
-        }
         if (!file_.open(QIODevice::WriteOnly)) {
             return atTarget(file_.errorString());
         }

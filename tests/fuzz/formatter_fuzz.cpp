@@ -62,6 +62,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     test::InputReader input({data, size});
     compareWithTheLibrary(input);
+    setStableAddresses((input.byte() & 1U) != 0);
+    test::require(!describeObject("Nothing", nullptr).description, "nothing has no description");
     const std::string format = input.text();
     std::deque<std::string> texts; // whose places stay
     std::vector<FormatArgument> arguments;

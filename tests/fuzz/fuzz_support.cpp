@@ -50,6 +50,14 @@ void MemoryFile::write(std::string_view content)
     require(written, "the input is in its file");
 }
 
+std::string MemoryFile::read() const
+{
+    std::string content(static_cast<std::size_t>(lseek(descriptor_, 0, SEEK_END)), '\0');
+    require(pread(descriptor_, content.data(), content.size(), 0) == static_cast<ssize_t>(content.size()),
+            "what was written can be read");
+    return content;
+}
+
 std::uint8_t InputReader::byte()
 {
     if (left_.empty()) {

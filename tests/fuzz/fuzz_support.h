@@ -36,6 +36,9 @@ public:
     MemoryFile &operator=(const MemoryFile &) = delete;
 
     void write(std::string_view content);
+    /// All that is in it.
+    std::string read() const;
+    int descriptor() const { return descriptor_; }
     /// Under which others open it, each from its start.
     const std::string &path() const { return path_; }
 

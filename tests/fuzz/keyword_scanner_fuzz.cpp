@@ -19,7 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     file.write(test::textOf(data, size));
     PanelContext *context = MyCreateCustomContext();
     context->onTiger = 1;
-    ParsePPDFile(file.path().c_str(), context);
+    ParsePPDFile(size > 0 ? file.path().c_str() : "/nowhere", context);
     getPPDOptionSelections(context);
     for (const ChoiceRow &row : context->ppdOptions->choiceLists) {
         std::size_t length = 0;

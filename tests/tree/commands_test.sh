@@ -47,6 +47,8 @@ output=$(PATH=$bin "$tessarin" --no-setup test --32 2>&1) || status=$?
 [ "$status" = 3 ] && grep -qF "in $bin/system" <<<"$output" && grep -qF "needs root" <<<"$output" ||
     { echo "FAILED: --32 without sudo: status $status, $output"; exit 1; }
 printf '#!/bin/bash\necho 0\n' >"$bin/id"
+printf '#!/bin/bash\necho amd64\n' >"$bin/dpkg"
+chmod +x "$bin/dpkg"
 printf '#!/bin/bash\necho "E: no such host"\nexit 1\n' >"$bin/debootstrap"
 chmod +x "$bin/debootstrap"
 status=0
