@@ -15,7 +15,7 @@ test_packages=(
     xvfb xdotool xauth
     cups cups-client
 )
-check_packages=(clang-format clang-tidy debootstrap)
+check_packages=(clang-format clang-tidy debootstrap valgrind)
 fuzz_packages=(clang llvm libclang-rt-14-dev)
 
 # missing_packages <package>...: those that are not installed, one a line. Asks the local database only.

@@ -5,11 +5,14 @@
 # Writes the traces of all golden sessions and of random ones as a build gives them, to be compared with another
 # build's.
 #
-#   replay_traces.sh <folder of the build> <folder for the traces> <how many random sessions>
+#   replay_traces.sh <folder of the build> <folder for the traces> <how many random sessions> [checker]...
+#
+# A checker is a program, with its options, under which the replay tool runs; its own output is in the files *.errors.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 traces=$2
 count=$3
+checker=("${@:4}")
 tests=$(cd "$(dirname "$0")/../tests" && pwd)
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
 
@@ -22,7 +25,7 @@ remark() { # script, name, what stands for none
 trace() { # name, PPD, script, options...
     local name=$1 ppd=$2 script=$3 status=0
     shift 3
-    timeout 120 "$build/bin/tessarin-replay" --stable --ppd "$ppd" "$@" "$script" \
+    timeout 300 "${checker[@]}" "$build/bin/tessarin-replay" --stable --ppd "$ppd" "$@" "$script" \
         >"$traces/$name.trace" 2>"$traces/$name.errors" || status=$?
     echo "status $status" >>"$traces/$name.trace"
 }
