@@ -51,6 +51,16 @@ bool answers(http_t *http)
     return answered;
 }
 
+/// Whether options are saved under an instance of a queue.
+bool hasInstance(http_t *http, const QString &name, const QString &instance)
+{
+    cups_dest_t *all = nullptr;
+    const int count = cupsGetDests2(http, &all);
+    const bool found = cupsGetDest(name.toUtf8().constData(), instance.toUtf8().constData(), count, all) != nullptr;
+    cupsFreeDests(count, all);
+    return found;
+}
+
 Outcome<CupsConnection> unreachable(const QString &why)
 {
     return Outcome<CupsConnection>::failed(
@@ -104,12 +114,12 @@ Outcome<CupsConnection> connectToPrintServer(const Patience &patience)
 Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QString &instance)
 {
     const QByteArray instanceName = instance.toUtf8();
-    // libcups takes no name for the default queue, and gives the queue where it does not know the instance.
+    // libcups takes no name for the default queue, and makes up every instance that it is asked for.
     CupsDestination destination(name.isEmpty()
                                     ? nullptr
                                     : cupsGetNamedDest(http, name.toUtf8().constData(),
                                                        instance.isEmpty() ? nullptr : instanceName.constData()));
-    if (destination && (instance.isEmpty() || qstricmp(destination->instance, instanceName.constData()) == 0)) {
+    if (destination && (instance.isEmpty() || hasInstance(http, name, instance))) {
         return destination;
     }
     const ipp_status_t status = destination || name.isEmpty() ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
