@@ -11,6 +11,7 @@
 #include "host/offscreen.h"
 #include "host/plugin_loader.h"
 #include "host/printer_choices.h"
+#include "host/translation.h"
 #include "printing/delivery.h"
 #include "printing/destinations.h"
 #include "printing/documents.h"
@@ -238,6 +239,7 @@ int runProgram(const CommandLine &line)
 int answerAndLeave(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    const Translation translation(askedLanguage(argc, argv));
     const QString text = asksForHelp(argc, argv)
                              ? helpText()
                              : QStringLiteral("tessarin-print %1\n").arg(QLatin1String(TESSARIN_VERSION));
@@ -262,7 +264,9 @@ int runApplication(int argc, char **argv)
     if (noDisplay || (!needsWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))) {
         chooseOffscreenPlatform();
     }
+    const QString language = askedLanguage(argc, argv); // before the application takes its own arguments away
     const QApplication application(argc, argv);
+    const Translation translation(language);
     QStringList arguments = QCoreApplication::arguments();
     if (noDisplay && needsWindow) {
         arguments.insert(1, QStringLiteral("--pictures=") + defaultPicturesDirectory());

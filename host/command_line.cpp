@@ -59,7 +59,7 @@ struct Options {
                           "installed with the program)."),
         TessarinPrint::tr("folder")};
     QCommandLineOption language{QStringLiteral("language"),
-                                TessarinPrint::tr("Show the panel in this language, such as de or pt_BR."),
+                                TessarinPrint::tr("Show the dialog in this language, such as de or pt_BR."),
                                 TessarinPrint::tr("code")};
     QCommandLineOption pictures{
         QStringLiteral("pictures"),

@@ -27,6 +27,11 @@ QString pdfPpdPath()
     return besideProgram(TESSARIN_DATA_FROM_BIN "/save-as-pdf.ppd");
 }
 
+QString translationsDirectory()
+{
+    return besideProgram(TESSARIN_DATA_FROM_BIN "/translations");
+}
+
 QString bundleDirectory(const QString &asked)
 {
     if (!asked.isEmpty()) {

@@ -16,6 +16,8 @@ QString samplePpdPath();
 /// The PPD of the PDF files that Print can write.
 QString pdfPpdPath();
 
+/// The folder of the dialog's translations.
+QString translationsDirectory();
 /// The folder of the panel's bundle: `asked` (the command line's) when not empty, else the environment variable
 /// TESSARIN_BUNDLE when set to something, else the bundle that was installed with this program.
 QString bundleDirectory(const QString &asked);

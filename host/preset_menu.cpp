@@ -77,10 +77,11 @@ Outcome<KeyValues> PresetMenu::valuesOf(const QString &name) const
         return Result::failed(problem_);
     }
     PresetValues found;
-    if (name == defaultsName()) {
+    // Scripts may name them in English in every language.
+    if (name == defaultsName() || name == QLatin1String("Default settings")) {
         return KeyValues();
     }
-    if (name == lastUsedName()) {
+    if (name == lastUsedName() || name == QLatin1String("Last used")) {
         found = store_->lastUsed();
     } else if (const std::optional<Preset> preset = store_->preset(name)) {
         found = preset->values;

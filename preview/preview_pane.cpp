@@ -109,7 +109,7 @@ QString PreviewPane::message() const
                                                : renderer_->problems().join(QStringLiteral("\n\n"));
     }
     if (renderer_->sheets() == 0) {
-        return TessarinPrint::tr("None of the document's %1 pages is selected.").arg(renderer_->pageCount());
+        return TessarinPrint::tr("None of the document's %n pages is selected.", nullptr, renderer_->pageCount());
     }
     if (!failure_.isEmpty()) {
         return failure_;

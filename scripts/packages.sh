@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 # The Debian packages that the project needs, to be sourced: those for building and running, for the tests, for the
-# checks of the sources, and for fuzzing.
+# checks of the sources, for Debian packages, and for fuzzing.
 
 build_packages=(
     cmake ninja-build g++
@@ -16,6 +16,7 @@ test_packages=(
     cups cups-client
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
+package_packages=(debhelper dpkg-dev fakeroot lintian)
 fuzz_packages=(clang llvm libclang-rt-14-dev)
 
 # missing_packages <package>...: those that are not installed, one a line. Asks the local database only.

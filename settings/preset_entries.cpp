@@ -49,7 +49,8 @@ QString presetNameProblem(const QString &name)
         return TessarinPrint::tr("a preset needs a name");
     }
     if (characters.size() > kLongestPresetName) {
-        return TessarinPrint::tr("the name of a preset has at most %1 characters").arg(kLongestPresetName);
+        return TessarinPrint::tr("the name of a preset has at most %n characters", nullptr,
+                                 static_cast<int>(kLongestPresetName));
     }
     // Half of a surrogate pair would come back from the file as another character.
     if (!trimmed.isValidUtf16() || std::any_of(characters.begin(), characters.end(), isForbidden)) {

@@ -25,6 +25,7 @@ expect 2 "./tessarin run [options]"
 expect 2 "unknown command fly" fly
 expect 2 "unknown option --fly" --fly
 expect 2 "build takes no arguments" build now
+expect 2 "package takes no arguments" package now
 expect 2 "setup takes no arguments" --no-setup setup now
 # Without the means to install anything, the missing packages are named.
 bin=$(mktemp -d)
