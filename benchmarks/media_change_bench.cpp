@@ -4,11 +4,13 @@
 // A person's change of the medium, with all that follows from it, against the bare work on the pop-ups: the items
 // of those that depend on the medium taken out and put in again.
 
+#include "benchmarks/bench_support.h"
 #include "controls/menu_items.h"
 #include "tests/support/panel_session.h"
 
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QVBoxLayout>
 
 #include <benchmark/benchmark.h>
 
@@ -23,6 +25,23 @@ namespace {
 constexpr int kMediaRow = 1;
 constexpr int kRows = 8;
 
+/// The panel's view in a window, as in a dialog.
+class ShownView {
+public:
+    explicit ShownView(test::PanelSession &session) : view_(session.open())
+    {
+        (new QVBoxLayout(&window_))->addWidget(view_);
+        bench::showUntilPainted(window_);
+    }
+    ~ShownView() { view_->setParent(nullptr); }
+    ShownView(const ShownView &) = delete;
+    ShownView &operator=(const ShownView &) = delete;
+
+private:
+    QWidget window_;
+    QWidget *view_; ///< the panel's
+};
+
 /// What a person's choice in the list of media does.
 void chooseMedium(test::PanelSession &session, int index)
 {
@@ -34,7 +53,7 @@ void chooseMedium(test::PanelSession &session, int index)
 void mediaChange(benchmark::State &state)
 {
     test::PanelSession session;
-    session.open()->show();
+    const ShownView shown(session);
     int index = 0;
     for ([[maybe_unused]] auto round : state) {
         index = index == 0 ? 1 : 0;
@@ -92,7 +111,7 @@ void fill(const Refill &refill)
 void mediaRefills(benchmark::State &state)
 {
     test::PanelSession session;
-    session.open()->show();
+    const ShownView shown(session);
     const std::array<std::vector<Refill>, 2> refills{refillsOf(session, 1), refillsOf(session, 0)};
     std::size_t which = 0;
     for ([[maybe_unused]] auto round : state) {

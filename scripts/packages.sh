@@ -12,7 +12,7 @@ build_packages=(
 )
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xdotool xauth
+    xvfb xdotool xauth fonts-droid-fallback
     cups cups-client
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
