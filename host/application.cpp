@@ -20,6 +20,7 @@
 #include "printing/ticket_output.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 
 #include <atomic>
@@ -267,6 +268,9 @@ int runApplication(int argc, char **argv)
     const QString language = askedLanguage(argc, argv); // before the application takes its own arguments away
     const QApplication application(argc, argv);
     const Translation translation(language);
+    // By this name the desktop finds the program's entry, and so its icon in lists of windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarin.Print"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tessarin.Print")));
     QStringList arguments = QCoreApplication::arguments();
     if (noDisplay && needsWindow) {
         arguments.insert(1, QStringLiteral("--pictures=") + defaultPicturesDirectory());

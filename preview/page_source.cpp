@@ -7,10 +7,7 @@
 #include "printing/text.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QRectF>
 
-#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -64,11 +61,6 @@ bool isPdf(const QByteArray &beginning)
 
 } // namespace
 
-OpenedPages cannotShow(const QString &path, const QString &why)
-{
-    return OpenedPages::failed(TessarinPrint::tr("%1: %2").arg(QFileInfo(path).fileName(), why));
-}
-
 QString noPreviewReason()
 {
     return TessarinPrint::tr("there is no preview of this kind of document");
@@ -84,20 +76,6 @@ OpenedPages openPages(const QString &path, TextExtent extent)
         return openPdf(path);
     }
     return isImage(path) ? openImage(path) : openText(path, extent);
-}
-
-QRectF fitted(const QSizeF &size, const QRectF &room)
-{
-    const QSizeF scaled = size.scaled(room.size(), Qt::KeepAspectRatio);
-    return {room.center() - QPointF(scaled.width() / 2, scaled.height() / 2), scaled};
-}
-
-QSize fittedPixels(const QSizeF &size, const QSize &room)
-{
-    if (size.isEmpty() || room.isEmpty()) {
-        return {};
-    }
-    return size.scaled(QSizeF(room), Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1)).boundedTo(room);
 }
 
 } // namespace tessarin::host

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "preview/page_formats.h"
+#include "preview/pdf_reader.h"
 
 #include "printing/text.h"
 
+#include <QObject>
 #include <QPainter>
 #include <QRectF>
 #include <QTransform>
@@ -115,9 +117,7 @@ private:
     int pageCount_;
 };
 
-} // namespace
-
-OpenedPages openPdf(const QString &path)
+OpenedPages openDocument(const QString &path)
 {
     silencePoppler();
     std::unique_ptr<Poppler::Document> document = Poppler::Document::load(path);
@@ -133,4 +133,17 @@ OpenedPages openPdf(const QString &path)
     return OpenedPages(std::make_unique<PdfSource>(std::move(document)));
 }
 
+class PdfReaderPlugIn final : public QObject, public PdfReader {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.tessarin.print.PdfReader/1")
+    Q_INTERFACES(tessarin::host::PdfReader)
+
+public:
+    OpenedPages open(const QString &path) override { return openDocument(path); }
+};
+
+} // namespace
+
 } // namespace tessarin::host
+
+#include "pdf_source.moc"

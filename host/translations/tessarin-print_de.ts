@@ -1469,5 +1469,9 @@ Nicht gedruckt: %3</translation>
         <source>Last page</source>
         <translation>Letzte Seite</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>der Teil dieses Programms, der PDF-Dateien liest, fehlt</translation>
+    </message>
 </context>
 </TS>

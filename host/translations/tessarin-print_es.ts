@@ -1469,5 +1469,9 @@ Sin imprimir: %3</translation>
         <source>Last page</source>
         <translation>Última página</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>falta la parte de este programa que lee archivos PDF</translation>
+    </message>
 </context>
 </TS>

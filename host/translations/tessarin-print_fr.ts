@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>there is no printer: name one with --printer, --ppd or --sample</source>
-        <translation>aucune imprimante : indiquez-en une avec --printer, --ppd ou --sample</translation>
+        <translation>aucune imprimante&#xa0;: indiquez-en une avec --printer, --ppd ou --sample</translation>
     </message>
     <message>
         <source>nothing was printed; pictures of the dialog (%1) are in %2, the options that Print would send are on standard output</source>
-        <translation>rien n’a été imprimé ; des images de la boîte de dialogue (%1) se trouvent dans %2, les options qu’enverrait « Imprimer » sont sur la sortie standard</translation>
+        <translation>rien n’a été imprimé&#xa0;; des images de la boîte de dialogue (%1) se trouvent dans %2, les options qu’enverrait «&#xa0;Imprimer&#xa0;» sont sur la sortie standard</translation>
     </message>
     <message>
         <source>the panel gives no summary</source>
@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>standard output: the summary cannot be written</source>
-        <translation>sortie standard : impossible d’écrire le résumé</translation>
+        <translation>sortie standard&#xa0;: impossible d’écrire le résumé</translation>
     </message>
     <message>
         <source>standard output: it cannot be written</source>
-        <translation>sortie standard : écriture impossible</translation>
+        <translation>sortie standard&#xa0;: écriture impossible</translation>
     </message>
     <message>
         <source>there is no display: to get a window, run this in a desktop session, set DISPLAY or WAYLAND_DISPLAY, or use a virtual display: xvfb-run -a tessarin-print</source>
-        <translation>aucun affichage : pour obtenir une fenêtre, lancez ce programme dans une session de bureau, définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez un affichage virtuel : xvfb-run -a tessarin-print</translation>
+        <translation>aucun affichage&#xa0;: pour obtenir une fenêtre, lancez ce programme dans une session de bureau, définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez un affichage virtuel&#xa0;: xvfb-run -a tessarin-print</translation>
     </message>
     <message>
         <source>Show the printer that a PPD file describes.</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Set an option of the printer or the job; may be given more than once.</source>
-        <translation>Définir une option de l’imprimante ou de la tâche ; peut être indiqué plusieurs fois.</translation>
+        <translation>Définir une option de l’imprimante ou de la tâche&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>key=value</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Start from a preset of the printer; -o, -n and -P go over it.</source>
-        <translation>Partir d’un préréglage de l’imprimante ; -o, -n et -P l’emportent sur lui.</translation>
+        <translation>Partir d’un préréglage de l’imprimante&#xa0;; -o, -n et -P l’emportent sur lui.</translation>
     </message>
     <message>
         <source>name</source>
@@ -89,11 +89,11 @@
     </message>
     <message>
         <source>Print at once, without a window; the panel&apos;s rules apply all the same.</source>
-        <translation>Imprimer immédiatement, sans fenêtre ; les règles du panneau s’appliquent quand même.</translation>
+        <translation>Imprimer immédiatement, sans fenêtre&#xa0;; les règles du panneau s’appliquent quand même.</translation>
     </message>
     <message>
         <source>Print nothing: list the printer&apos;s presets, one a line.</source>
-        <translation>Ne rien imprimer : lister les préréglages de l’imprimante, un par ligne.</translation>
+        <translation>Ne rien imprimer&#xa0;: lister les préréglages de l’imprimante, un par ligne.</translation>
     </message>
     <message>
         <source>Print each document as a job of its own.</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Write the job&apos;s options to a file, one key=value per line (&quot;-&quot;: to standard output, which is the default without a queue).</source>
-        <translation>Écrire les options de la tâche dans un fichier, une clé=valeur par ligne (&quot;-&quot; : sur la sortie standard, par défaut en l’absence de file d’attente).</translation>
+        <translation>Écrire les options de la tâche dans un fichier, une clé=valeur par ligne (&quot;-&quot;&#xa0;: sur la sortie standard, par défaut en l’absence de file d’attente).</translation>
     </message>
     <message>
         <source>Send the panel&apos;s diagnostic log to stderr, none, syslog (default) or a file.</source>
@@ -129,11 +129,11 @@
     </message>
     <message>
         <source>Print nothing: save a picture of each page in this folder and list the job&apos;s options on standard output. Without a display this happens anyway, in ./tessarin-pages.</source>
-        <translation>Ne rien imprimer : enregistrer une image de chaque page dans ce dossier et lister les options de la tâche sur la sortie standard. Sans affichage, cela se fait de toute façon, dans ./tessarin-pages.</translation>
+        <translation>Ne rien imprimer&#xa0;: enregistrer une image de chaque page dans ce dossier et lister les options de la tâche sur la sortie standard. Sans affichage, cela se fait de toute façon, dans ./tessarin-pages.</translation>
     </message>
     <message>
         <source>Print nothing and open no window: list the settings on standard output, as text or, with &quot;json&quot;, as JSON.</source>
-        <translation>Ne rien imprimer et n’ouvrir aucune fenêtre : lister les réglages sur la sortie standard, sous forme de texte ou, avec &quot;json&quot;, en JSON.</translation>
+        <translation>Ne rien imprimer et n’ouvrir aucune fenêtre&#xa0;: lister les réglages sur la sortie standard, sous forme de texte ou, avec &quot;json&quot;, en JSON.</translation>
     </message>
     <message>
         <source>[json]</source>
@@ -149,39 +149,39 @@
     </message>
     <message>
         <source>The documents to print (&quot;-&quot;: standard input).</source>
-        <translation>Les documents à imprimer (&quot;-&quot; : entrée standard).</translation>
+        <translation>Les documents à imprimer (&quot;-&quot;&#xa0;: entrée standard).</translation>
     </message>
     <message>
         <source>usage: -o %1: there is no key before the &quot;=&quot;</source>
-        <translation>utilisation : -o %1 : il n’y a pas de clé avant le &quot;=&quot;</translation>
+        <translation>utilisation&#xa0;: -o %1&#xa0;: il n’y a pas de clé avant le &quot;=&quot;</translation>
     </message>
     <message>
         <source>usage: -n %1: not a number of copies from 1 to 9999</source>
-        <translation>utilisation : -n %1 : n’est pas un nombre de copies de 1 à 9999</translation>
+        <translation>utilisation&#xa0;: -n %1&#xa0;: n’est pas un nombre de copies de 1 à 9999</translation>
     </message>
     <message>
         <source>usage: -P %1: %2</source>
-        <translation>utilisation : -P %1 : %2</translation>
+        <translation>utilisation&#xa0;: -P %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>usage: --ppd and --printer cannot be given together: one printer at a time</source>
-        <translation>utilisation : --ppd et --printer ne peuvent pas être indiqués ensemble : une seule imprimante à la fois</translation>
+        <translation>utilisation&#xa0;: --ppd et --printer ne peuvent pas être indiqués ensemble&#xa0;: une seule imprimante à la fois</translation>
     </message>
     <message>
         <source>usage: --printer %1: no name of a queue</source>
-        <translation>utilisation : --printer %1 : n’est pas un nom de file d’attente</translation>
+        <translation>utilisation&#xa0;: --printer %1&#xa0;: n’est pas un nom de file d’attente</translation>
     </message>
     <message>
         <source>usage: --sample cannot be given with --ppd or --printer: one printer at a time</source>
-        <translation>utilisation : --sample ne peut pas être indiqué avec --ppd ou --printer : une seule imprimante à la fois</translation>
+        <translation>utilisation&#xa0;: --sample ne peut pas être indiqué avec --ppd ou --printer&#xa0;: une seule imprimante à la fois</translation>
     </message>
     <message>
         <source>usage: --no-dialog prints, which --pictures, --summary and --list-presets do not</source>
-        <translation>utilisation : --no-dialog imprime, contrairement à --pictures, --summary et --list-presets</translation>
+        <translation>utilisation&#xa0;: --no-dialog imprime, contrairement à --pictures, --summary et --list-presets</translation>
     </message>
     <message>
         <source>usage: no document: there is nothing to print on queue %1</source>
-        <translation>utilisation : aucun document : il n’y a rien à imprimer sur la file d’attente %1</translation>
+        <translation>utilisation&#xa0;: aucun document&#xa0;: il n’y a rien à imprimer sur la file d’attente %1</translation>
     </message>
     <message>
         <source>(the default)</source>
@@ -189,27 +189,27 @@
     </message>
     <message>
         <source>usage: standard input (&quot;-&quot;) can be printed only once</source>
-        <translation>utilisation : l’entrée standard (&quot;-&quot;) ne peut être imprimée qu’une seule fois</translation>
+        <translation>utilisation&#xa0;: l’entrée standard (&quot;-&quot;) ne peut être imprimée qu’une seule fois</translation>
     </message>
     <message>
         <source>usage: a document has an empty name</source>
-        <translation>utilisation : un document a un nom vide</translation>
+        <translation>utilisation&#xa0;: un document a un nom vide</translation>
     </message>
     <message>
         <source>usage: --language %1: not a language code such as de or pt_BR</source>
-        <translation>utilisation : --language %1 : n’est pas un code de langue tel que de ou pt_BR</translation>
+        <translation>utilisation&#xa0;: --language %1&#xa0;: n’est pas un code de langue tel que de ou pt_BR</translation>
     </message>
     <message>
         <source>usage: --summary %1: not a form, which is text or json</source>
-        <translation>utilisation : --summary %1 : n’est pas un format (text ou json)</translation>
+        <translation>utilisation&#xa0;: --summary %1&#xa0;: n’est pas un format (text ou json)</translation>
     </message>
     <message>
         <source>usage: %1</source>
-        <translation>utilisation : %1</translation>
+        <translation>utilisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>usage: --%1: the value is empty</source>
-        <translation>utilisation : --%1 : la valeur est vide</translation>
+        <translation>utilisation&#xa0;: --%1&#xa0;: la valeur est vide</translation>
     </message>
     <message>
         <source>A print dialog with the panel of printer settings. Without --printer, --ppd or --sample it starts with the printer that was used last, or the default one.</source>
@@ -220,7 +220,7 @@
 Exit codes: 0 printed (or done what was asked in place of printing), 1 cancelled, 2 usage, settings that are not possible or a file that cannot be written, 3 printer, 4 document, 5 plug-in.
 </source>
         <translation>
-Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 annulé, 2 utilisation, réglages impossibles ou fichier impossible à écrire, 3 imprimante, 4 document, 5 greffon.
+Codes de sortie&#xa0;: 0 imprimé (ou action demandée à la place effectuée), 1 annulé, 2 utilisation, réglages impossibles ou fichier impossible à écrire, 3 imprimante, 4 document, 5 greffon.
 </translation>
     </message>
     <message>
@@ -229,11 +229,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source> in</source>
@@ -296,7 +296,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
         <extracomment>%1 is a setting, %2 its value
 ----------
 %1 says what was tried, %2 lists the settings</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Settings that exclude each other</source>
@@ -304,7 +304,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>The printer cannot do all of this at once: %1.</source>
-        <translation>L’imprimante ne peut pas faire tout cela à la fois : %1.</translation>
+        <translation>L’imprimante ne peut pas faire tout cela à la fois&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Nothing was printed. Change one of these settings.</source>
@@ -324,7 +324,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Not printed: %1</source>
-        <translation>Non imprimé : %1</translation>
+        <translation>Non imprimé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not printed</source>
@@ -332,7 +332,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Your document and settings are kept: you can try again.</source>
-        <translation>Le document et les réglages sont conservés : vous pouvez réessayer.</translation>
+        <translation>Le document et les réglages sont conservés&#xa0;: vous pouvez réessayer.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
@@ -373,7 +373,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>To make it fit, this would be set, too: %1.</source>
-        <translation>Pour que ce soit compatible, ceci serait également modifié : %1.</translation>
+        <translation>Pour que ce soit compatible, ceci serait également modifié&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&amp;Change Both</source>
@@ -381,7 +381,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Changed, too: %1</source>
-        <translation>Également modifié : %1</translation>
+        <translation>Également modifié&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -389,11 +389,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Preset %1: not possible on this printer now</source>
-        <translation>Préréglage %1 : actuellement impossible sur cette imprimante</translation>
+        <translation>Préréglage %1&#xa0;: actuellement impossible sur cette imprimante</translation>
     </message>
     <message>
         <source>Preset applied: %1</source>
-        <translation>Préréglage appliqué : %1</translation>
+        <translation>Préréglage appliqué&#xa0;: %1</translation>
     </message>
     <message>
         <source>Its default is not possible now</source>
@@ -401,7 +401,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Reset to its default: %1</source>
-        <translation>Valeur par défaut rétablie : %1</translation>
+        <translation>Valeur par défaut rétablie&#xa0;: %1</translation>
     </message>
     <message>
         <source>Reset to defaults.</source>
@@ -421,11 +421,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>No feature of this printer has “%1” in its name or choices.</source>
-        <translation>Aucune fonction de cette imprimante ne contient « %1 » dans son nom ou ses choix.</translation>
+        <translation>Aucune fonction de cette imprimante ne contient «&#xa0;%1&#xa0;» dans son nom ou ses choix.</translation>
     </message>
     <message>
         <source>C&amp;ollate</source>
@@ -437,27 +437,27 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>Pa&amp;ges :</translation>
+        <translation>Pa&amp;ges&#xa0;:</translation>
     </message>
     <message>
         <source>O&amp;f these:</source>
-        <translation>&amp;Parmi celles-ci :</translation>
+        <translation>&amp;Parmi celles-ci&#xa0;:</translation>
     </message>
     <message>
         <source>Pap&amp;er size:</source>
-        <translation>&amp;Format de papier :</translation>
+        <translation>&amp;Format de papier&#xa0;:</translation>
     </message>
     <message>
         <source>Or&amp;ientation:</source>
-        <translation>Orie&amp;ntation :</translation>
+        <translation>Orie&amp;ntation&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Two-sided:</source>
-        <translation>Recto &amp;verso :</translation>
+        <translation>Recto &amp;verso&#xa0;:</translation>
     </message>
     <message>
         <source>Pages per s&amp;heet:</source>
-        <translation>Pages par feui&amp;lle :</translation>
+        <translation>Pages par feui&amp;lle&#xa0;:</translation>
     </message>
     <message>
         <source>Custom Size…</source>
@@ -473,7 +473,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>&amp;Copies:</source>
-        <translation>&amp;Copies :</translation>
+        <translation>&amp;Copies&#xa0;:</translation>
     </message>
     <message>
         <source>Pages to print</source>
@@ -485,11 +485,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Print:</source>
-        <translation>Imprimer :</translation>
+        <translation>Imprimer&#xa0;:</translation>
     </message>
     <message>
         <source>Which pages? For example 1-3, 5, 8-</source>
-        <translation>Quelles pages ? Par exemple 1-3, 5, 8-</translation>
+        <translation>Quelles pages&#xa0;? Par exemple 1-3, 5, 8-</translation>
     </message>
     <message>
         <source>waiting</source>
@@ -522,7 +522,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     <message>
         <source>Job %1: %2</source>
         <extracomment>%1 is a job&apos;s number, %2 what it is doing</extracomment>
-        <translation>Tâche %1 : %2</translation>
+        <translation>Tâche %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 – %2</source>
@@ -535,11 +535,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>log %1: %2</source>
-        <translation>journal %1 : %2</translation>
+        <translation>journal %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>log file %1: %2</source>
-        <translation>fichier journal %1 : %2</translation>
+        <translation>fichier journal %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1=%2 (with the other settings it is %3)</source>
@@ -547,11 +547,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>not possible on this printer: %1</source>
-        <translation>impossible sur cette imprimante : %1</translation>
+        <translation>impossible sur cette imprimante&#xa0;: %1</translation>
     </message>
     <message>
         <source>the printer cannot do all of this at once: %1</source>
-        <translation>l’imprimante ne peut pas faire tout cela à la fois : %1</translation>
+        <translation>l’imprimante ne peut pas faire tout cela à la fois&#xa0;: %1</translation>
     </message>
     <message>
         <source>job %1-%2
@@ -565,15 +565,15 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>picture %1: %2</source>
-        <translation>image %1 : %2</translation>
+        <translation>image %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>folder for pictures %1: it cannot be made</source>
-        <translation>dossier d’images %1 : création impossible</translation>
+        <translation>dossier d’images %1&#xa0;: création impossible</translation>
     </message>
     <message>
         <source>page %1 (%2) cannot be selected for this printer: no picture of it</source>
-        <translation>la page %1 (%2) ne peut pas être sélectionnée pour cette imprimante : pas d’image de cette page</translation>
+        <translation>la page %1 (%2) ne peut pas être sélectionnée pour cette imprimante&#xa0;: pas d’image de cette page</translation>
     </message>
     <message>
         <source>The printer&apos;s plug-in offers no panel of settings.</source>
@@ -581,7 +581,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>%1 is for other printers: this one has none of its options.</source>
-        <translation>%1 est destiné à d’autres imprimantes : celle-ci n’a aucune de ses options.</translation>
+        <translation>%1 est destiné à d’autres imprimantes&#xa0;: celle-ci n’a aucune de ses options.</translation>
     </message>
     <message>
         <source>The panel could not read the printer&apos;s settings.</source>
@@ -617,7 +617,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>plug-in %1: %2</source>
-        <translation>greffon %1 : %2</translation>
+        <translation>greffon %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no such folder</source>
@@ -633,7 +633,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>at byte %1: %2</source>
-        <translation>à l’octet %1 : %2</translation>
+        <translation>à l’octet %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>it does not give &quot;%1&quot;</source>
@@ -661,7 +661,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>it was made for version %1 of the panel protocol; this dialog has version %2</source>
-        <translation>il a été conçu pour la version %1 du protocole de panneau ; cette boîte de dialogue utilise la version %2</translation>
+        <translation>il a été conçu pour la version %1 du protocole de panneau&#xa0;; cette boîte de dialogue utilise la version %2</translation>
     </message>
     <message>
         <source>its root object is not a panel factory</source>
@@ -689,11 +689,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>preset %1: this printer has none of this name</source>
-        <translation>préréglage %1 : cette imprimante n’en a aucun de ce nom</translation>
+        <translation>préréglage %1&#xa0;: cette imprimante n’en a aucun de ce nom</translation>
     </message>
     <message>
         <source>preset %1: %2</source>
-        <translation>préréglage %1 : %2</translation>
+        <translation>préréglage %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>&amp;Save as Preset…</source>
@@ -713,7 +713,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Preset saved: %1</source>
-        <translation>Préréglage enregistré : %1</translation>
+        <translation>Préréglage enregistré&#xa0;: %1</translation>
     </message>
     <message>
         <source>Rename Preset</source>
@@ -721,15 +721,15 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>New name of the preset:</source>
-        <translation>Nouveau nom du préréglage :</translation>
+        <translation>Nouveau nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Preset renamed: %1</source>
-        <translation>Préréglage renommé : %1</translation>
+        <translation>Préréglage renommé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Preset deleted: %1</source>
-        <translation>Préréglage supprimé : %1</translation>
+        <translation>Préréglage supprimé&#xa0;: %1</translation>
     </message>
     <message>
         <source>These settings are your defaults for %1 now, in every program (%2).</source>
@@ -741,19 +741,19 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>Print lists the job&apos;s options</source>
-        <translation>« Imprimer » liste les options de la tâche</translation>
+        <translation>«&#xa0;Imprimer&#xa0;» liste les options de la tâche</translation>
     </message>
     <message>
         <source>Print writes the pages into a file</source>
-        <translation>« Imprimer » écrit les pages dans un fichier</translation>
+        <translation>«&#xa0;Imprimer&#xa0;» écrit les pages dans un fichier</translation>
     </message>
     <message>
         <source>PPD file %1: Print lists the job&apos;s options</source>
-        <translation>Fichier PPD %1 : « Imprimer » liste les options de la tâche</translation>
+        <translation>Fichier PPD %1&#xa0;: «&#xa0;Imprimer&#xa0;» liste les options de la tâche</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
-        <translation>I&amp;mprimante :</translation>
+        <translation>I&amp;mprimante&#xa0;:</translation>
     </message>
     <message>
         <source>Printer</source>
@@ -789,11 +789,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>The preset keeps:</source>
-        <translation>Le préréglage conserve :</translation>
+        <translation>Le préréglage conserve&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -813,11 +813,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>changed (default: none)</source>
-        <translation>modifié (par défaut : aucun)</translation>
+        <translation>modifié (par défaut&#xa0;: aucun)</translation>
     </message>
     <message>
         <source>changed (default: %1)</source>
-        <translation>modifié (par défaut : %1)</translation>
+        <translation>modifié (par défaut&#xa0;: %1)</translation>
     </message>
     <message>
         <source>&amp;Reset to Default</source>
@@ -925,19 +925,19 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>page ranges: &quot;%1&quot; is not a page or a range such as 2-5</source>
-        <translation>plages de pages : &quot;%1&quot; n’est ni une page ni une plage telle que 2-5</translation>
+        <translation>plages de pages&#xa0;: &quot;%1&quot; n’est ni une page ni une plage telle que 2-5</translation>
     </message>
     <message>
         <source>page ranges: &quot;%1&quot; names a page that cannot be</source>
-        <translation>plages de pages : &quot;%1&quot; désigne une page qui ne peut pas exister</translation>
+        <translation>plages de pages&#xa0;: &quot;%1&quot; désigne une page qui ne peut pas exister</translation>
     </message>
     <message>
         <source>page ranges: &quot;%1&quot; ends before it begins</source>
-        <translation>plages de pages : &quot;%1&quot; se termine avant de commencer</translation>
+        <translation>plages de pages&#xa0;: &quot;%1&quot; se termine avant de commencer</translation>
     </message>
     <message>
         <source>page ranges: &quot;%1&quot; does not follow the pages before it: a job prints its pages in their order, each once</source>
-        <translation>plages de pages : &quot;%1&quot; ne suit pas les pages qui précèdent : une tâche imprime ses pages dans l’ordre, chacune une seule fois</translation>
+        <translation>plages de pages&#xa0;: &quot;%1&quot; ne suit pas les pages qui précèdent&#xa0;: une tâche imprime ses pages dans l’ordre, chacune une seule fois</translation>
     </message>
     <message>
         <source>a preset needs a name</source>
@@ -956,11 +956,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>&quot;%1&quot; is always there: no other preset can have its name</source>
-        <translation>&quot;%1&quot; existe toujours : aucun autre préréglage ne peut porter ce nom</translation>
+        <translation>&quot;%1&quot; existe toujours&#xa0;: aucun autre préréglage ne peut porter ce nom</translation>
     </message>
     <message>
         <source>presets file %1: %2</source>
-        <translation>fichier de préréglages %1 : %2</translation>
+        <translation>fichier de préréglages %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>it is a directory</source>
@@ -988,7 +988,7 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>line 1: not a JSON object</source>
-        <translation>ligne 1 : n’est pas un objet JSON</translation>
+        <translation>ligne 1&#xa0;: n’est pas un objet JSON</translation>
     </message>
     <message>
         <source>&quot;version&quot; is not a version number</source>
@@ -996,11 +996,11 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>it was written by a later version of this program (its format is %1, this program knows %2): its presets can be used, not changed</source>
-        <translation>il a été écrit par une version plus récente de ce programme (son format est %1, ce programme connaît %2) : ses préréglages peuvent être utilisés, mais pas modifiés</translation>
+        <translation>il a été écrit par une version plus récente de ce programme (son format est %1, ce programme connaît %2)&#xa0;: ses préréglages peuvent être utilisés, mais pas modifiés</translation>
     </message>
     <message>
         <source>presets folder %1: %2</source>
-        <translation>dossier de préréglages %1 : %2</translation>
+        <translation>dossier de préréglages %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>another program is changing presets and does not come to an end</source>
@@ -1028,19 +1028,19 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>presets: the printer has no name</source>
-        <translation>préréglages : l’imprimante n’a pas de nom</translation>
+        <translation>préréglages&#xa0;: l’imprimante n’a pas de nom</translation>
     </message>
     <message>
         <source>preset &quot;%1&quot;: a value has no key</source>
-        <translation>préréglage &quot;%1&quot; : une valeur n’a pas de clé</translation>
+        <translation>préréglage &quot;%1&quot;&#xa0;: une valeur n’a pas de clé</translation>
     </message>
     <message>
         <source>%1; it was kept as %2</source>
-        <translation>%1 ; il a été conservé sous %2</translation>
+        <translation>%1&#xa0;; il a été conservé sous %2</translation>
     </message>
     <message>
         <source>print server %1: it cannot be reached: %2</source>
-        <translation>serveur d’impression %1 : il est injoignable : %2</translation>
+        <translation>serveur d’impression %1&#xa0;: il est injoignable&#xa0;: %2</translation>
     </message>
     <message>
         <source>the connection was lost</source>
@@ -1060,35 +1060,35 @@ Codes de sortie : 0 imprimé (ou action demandée à la place effectuée), 1 an
     </message>
     <message>
         <source>the print server %1 says: %2</source>
-        <translation>le serveur d’impression %1 indique : %2</translation>
+        <translation>le serveur d’impression %1 indique&#xa0;: %2</translation>
     </message>
     <message>
         <source>queue %1: %2</source>
-        <translation>file d’attente %1 : %2</translation>
+        <translation>file d’attente %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>folder for the PPD of queue %1: %2</source>
-        <translation>dossier du PPD de la file d’attente %1 : %2</translation>
+        <translation>dossier du PPD de la file d’attente %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>folder for the PPD of queue %1: the path %2 is too long</source>
-        <translation>dossier du PPD de la file d’attente %1 : le chemin %2 est trop long</translation>
+        <translation>dossier du PPD de la file d’attente %1&#xa0;: le chemin %2 est trop long</translation>
     </message>
     <message>
         <source>file %1: it cannot be written</source>
-        <translation>fichier %1 : écriture impossible</translation>
+        <translation>fichier %1&#xa0;: écriture impossible</translation>
     </message>
     <message>
         <source>queue %1: its PPD file cannot be fetched: %2</source>
-        <translation>file d’attente %1 : impossible de récupérer son fichier PPD : %2</translation>
+        <translation>file d’attente %1&#xa0;: impossible de récupérer son fichier PPD&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1
 Printed already: %2
 Not printed: %3</source>
         <translation>%1
-Déjà imprimé : %2
-Non imprimé : %3</translation>
+Déjà imprimé&#xa0;: %2
+Non imprimé&#xa0;: %3</translation>
     </message>
     <message>
         <source>idle</source>
@@ -1100,11 +1100,11 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>print server %1: it does not list its queues: %2</source>
-        <translation>serveur d’impression %1 : il ne donne pas la liste de ses files d’attente : %2</translation>
+        <translation>serveur d’impression %1&#xa0;: il ne donne pas la liste de ses files d’attente&#xa0;: %2</translation>
     </message>
     <message>
         <source>document %1: %2</source>
-        <translation>document %1 : %2</translation>
+        <translation>document %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the file is empty</source>
@@ -1124,7 +1124,7 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>the print server does not cancel it: %1</source>
-        <translation>le serveur d’impression ne l’annule pas : %1</translation>
+        <translation>le serveur d’impression ne l’annule pas&#xa0;: %1</translation>
     </message>
     <message>
         <source>the print server no longer has the queue %1</source>
@@ -1140,11 +1140,11 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>sheets so far: %1</source>
-        <translation>feuilles jusqu’ici : %1</translation>
+        <translation>feuilles jusqu’ici&#xa0;: %1</translation>
     </message>
     <message>
         <source>job %1: the print server %2 does not tell how it is: %3</source>
-        <translation>tâche %1 : le serveur d’impression %2 n’indique pas son état : %3</translation>
+        <translation>tâche %1&#xa0;: le serveur d’impression %2 n’indique pas son état&#xa0;: %3</translation>
     </message>
     <message>
         <source>it is not accepting jobs</source>
@@ -1152,15 +1152,15 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>it does not take the job: %1</source>
-        <translation>elle n’accepte pas la tâche : %1</translation>
+        <translation>elle n’accepte pas la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>it does not take the document %1: %2</source>
-        <translation>elle n’accepte pas le document %1 : %2</translation>
+        <translation>elle n’accepte pas le document %1&#xa0;: %2</translation>
     </message>
     <message>
         <source> (job %1 may remain on the server: %2)</source>
-        <translation> (la tâche %1 peut rester sur le serveur : %2)</translation>
+        <translation> (la tâche %1 peut rester sur le serveur&#xa0;: %2)</translation>
     </message>
     <message>
         <source>there is no document to print</source>
@@ -1172,15 +1172,15 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>it is larger than %1 MiB</source>
-        <translation>il dépasse %1 Mio</translation>
+        <translation>il dépasse %1&#xa0;Mio</translation>
     </message>
     <message>
         <source>PPD file %1: %2</source>
-        <translation>fichier PPD %1 : %2</translation>
+        <translation>fichier PPD %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>paused</source>
@@ -1340,15 +1340,15 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>ticket on standard output: %1</source>
-        <translation>ticket sur la sortie standard : %1</translation>
+        <translation>ticket sur la sortie standard&#xa0;: %1</translation>
     </message>
     <message>
         <source>ticket file %1: %2</source>
-        <translation>fichier de ticket %1 : %2</translation>
+        <translation>fichier de ticket %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>file %1: %2</source>
-        <translation>fichier %1 : %2</translation>
+        <translation>fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>; it could not be removed again</source>
@@ -1360,19 +1360,19 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>these options of %1 could not be kept: %2</source>
-        <translation>ces options de %1 n’ont pas pu être conservées : %2</translation>
+        <translation>ces options de %1 n’ont pas pu être conservées&#xa0;: %2</translation>
     </message>
     <message>
         <source>file %1: it cannot be written: %2</source>
-        <translation>fichier %1 : écriture impossible : %2</translation>
+        <translation>fichier %1&#xa0;: écriture impossible&#xa0;: %2</translation>
     </message>
     <message>
         <source>queue %1: the values of these options cannot be kept as defaults: %2</source>
-        <translation>file d’attente %1 : les valeurs de ces options ne peuvent pas être conservées par défaut : %2</translation>
+        <translation>file d’attente %1&#xa0;: les valeurs de ces options ne peuvent pas être conservées par défaut&#xa0;: %2</translation>
     </message>
     <message>
         <source>queue %1: the print server has no queue of this name</source>
-        <translation>file d’attente %1 : le serveur d’impression n’a pas de file d’attente de ce nom</translation>
+        <translation>file d’attente %1&#xa0;: le serveur d’impression n’a pas de file d’attente de ce nom</translation>
     </message>
     <message>
         <source>%1, for all users</source>
@@ -1380,7 +1380,7 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>the image cannot be read: %1</source>
-        <translation>impossible de lire l’image : %1</translation>
+        <translation>impossible de lire l’image&#xa0;: %1</translation>
     </message>
     <message>
         <source>page %1 cannot be drawn</source>
@@ -1412,7 +1412,7 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>a page cannot be begun: %1</source>
-        <translation>impossible de commencer une page : %1</translation>
+        <translation>impossible de commencer une page&#xa0;: %1</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1429,7 +1429,7 @@ Non imprimé : %3</translation>
     <message numerus="yes">
         <source>None of the document&apos;s %n pages is selected.</source>
         <translation>
-            <numerusform>Document de %n page : aucune n’est sélectionnée.</numerusform>
+            <numerusform>Document de %n page&#xa0;: aucune n’est sélectionnée.</numerusform>
             <numerusform>Aucune des %n pages du document n’est sélectionnée.</numerusform>
         </translation>
     </message>
@@ -1447,11 +1447,11 @@ Non imprimé : %3</translation>
     </message>
     <message>
         <source>only the first page is shown here; all pages are printed</source>
-        <translation>seule la première page est affichée ici ; toutes les pages sont imprimées</translation>
+        <translation>seule la première page est affichée ici&#xa0;; toutes les pages sont imprimées</translation>
     </message>
     <message>
         <source>the text is longer than %1 MB</source>
-        <translation>le texte dépasse %1 Mo</translation>
+        <translation>le texte dépasse %1&#xa0;Mo</translation>
     </message>
     <message>
         <source>First page</source>
@@ -1468,6 +1468,10 @@ Non imprimé : %3</translation>
     <message>
         <source>Last page</source>
         <translation>Dernière page</translation>
+    </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>la partie de ce programme qui lit les fichiers PDF est absente</translation>
     </message>
 </context>
 </TS>

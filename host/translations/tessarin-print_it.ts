@@ -1469,5 +1469,9 @@ Non stampato: %3</translation>
         <source>Last page</source>
         <translation>Ultima pagina</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>manca la parte di questo programma che legge i file PDF</translation>
+    </message>
 </context>
 </TS>

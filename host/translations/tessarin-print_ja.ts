@@ -1467,5 +1467,9 @@ Not printed: %3</source>
         <source>Last page</source>
         <translation>最後のページ</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>PDF ファイルを読み込むためのこのプログラムの部品がありません</translation>
+    </message>
 </context>
 </TS>

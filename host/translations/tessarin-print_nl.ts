@@ -1469,5 +1469,9 @@ Niet afgedrukt: %3</translation>
         <source>Last page</source>
         <translation>Laatste pagina</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>het onderdeel van dit programma dat pdf-bestanden leest, ontbreekt</translation>
+    </message>
 </context>
 </TS>

@@ -1471,5 +1471,9 @@ Nie wydrukowano: %3</translation>
         <source>Last page</source>
         <translation>Ostatnia strona</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>brakuje części tego programu, która odczytuje pliki PDF</translation>
+    </message>
 </context>
 </TS>

@@ -1469,5 +1469,9 @@ Não impresso: %3</translation>
         <source>Last page</source>
         <translation>Última página</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>falta a parte deste programa que lê arquivos PDF</translation>
+    </message>
 </context>
 </TS>

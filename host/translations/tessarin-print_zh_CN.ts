@@ -1467,5 +1467,9 @@ Not printed: %3</source>
         <source>Last page</source>
         <translation>最后一页</translation>
     </message>
+    <message>
+        <source>the part of this program that reads PDF files is missing</source>
+        <translation>缺少本程序中读取 PDF 文件的部分</translation>
+    </message>
 </context>
 </TS>
