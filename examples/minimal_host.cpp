@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include "cups/ppd_library.h"
+#include <cups/ppd.h>
 
 namespace pde = tessarin::pde;
 

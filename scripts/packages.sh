@@ -16,7 +16,7 @@ test_packages=(
     cups cups-client
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
-package_packages=(debhelper dpkg-dev fakeroot lintian)
+package_packages=(debhelper debootstrap dpkg-dev fakeroot lintian)
 fuzz_packages=(clang llvm libclang-rt-14-dev)
 
 # missing_packages <package>...: those that are not installed, one a line. Asks the local database only.

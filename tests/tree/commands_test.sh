@@ -25,7 +25,7 @@ expect 2 "./tessarin run [options]"
 expect 2 "unknown command fly" fly
 expect 2 "unknown option --fly" --fly
 expect 2 "build takes no arguments" build now
-expect 2 "package takes no arguments" package now
+expect 2 "package takes no arguments but --try" package now
 expect 2 "setup takes no arguments" --no-setup setup now
 # Without the means to install anything, the missing packages are named.
 bin=$(mktemp -d)
@@ -45,7 +45,7 @@ output=$(PATH=$bin "$tessarin" setup 2>&1) || status=$?
 export TESSARIN_I386=$bin/system
 status=0
 output=$(PATH=$bin "$tessarin" --no-setup test --32 2>&1) || status=$?
-[ "$status" = 3 ] && grep -qF "in $bin/system" <<<"$output" && grep -qF "needs root" <<<"$output" ||
+[ "$status" = 3 ] && grep -qF "Debian 12 in $bin/system" <<<"$output" && grep -qF "needs root" <<<"$output" ||
     { echo "FAILED: --32 without sudo: status $status, $output"; exit 1; }
 printf '#!/bin/bash\necho 0\n' >"$bin/id"
 printf '#!/bin/bash\necho amd64\n' >"$bin/dpkg"
