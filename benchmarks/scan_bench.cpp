@@ -66,6 +66,8 @@ std::string largePPD(std::size_t size)
     return ppd;
 }
 
+/// The parsed PPD is the sample's throughout: libcups would need gigabytes for the largest file, and the lists come
+/// from the panel's own options, which are the same in all.
 void scanMiB(benchmark::State &state)
 {
     const bench::TemporaryFile file(largePPD(static_cast<std::size_t>(state.range(0)) * kMiB));

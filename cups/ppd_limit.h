@@ -7,9 +7,11 @@
 #ifndef TESSARIN_CUPS_PPD_LIMIT_H
 #define TESSARIN_CUPS_PPD_LIMIT_H
 
+#include <array>
 #include <cstddef>
-#include <vector>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <zlib.h>
 
@@ -18,28 +20,35 @@ namespace tessarin {
 /// Largest PPD that is opened, in bytes when unfolded. The largest block of extra data takes two thirds of it.
 inline constexpr std::size_t kLargestPPD = 24UL * 1024 * 1024;
 
-/// Whether the open file `descriptor`, compressed or not, unfolds to more than kLargestPPD bytes. Reads it to that
-/// point and goes back to its start. What breaks off before it is no larger; false without memory to tell.
+/// Whether the open file `descriptor`, compressed or not, may unfold to more than kLargestPPD bytes: it does, it is
+/// damaged where libcups might read on, or it cannot be told. Reads it to that point and goes back to its start. A
+/// file that breaks off is as large as what is there.
 inline bool exceedsLargestPPD(int descriptor)
 {
-    const int copy = dup(descriptor);
-    gzFile file = copy < 0 ? nullptr : gzdopen(copy, "rb");
-    if (file == nullptr) {
-        if (copy >= 0) {
-            close(copy);
-        }
-        return false;
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0 || status.st_size > static_cast<off_t>(kLargestPPD)) {
+        return true;
     }
-    constexpr unsigned kPiece = 64 * 1024;
-    std::vector<char> piece(kPiece);
+    const int copy = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    if (copy < 0) {
+        return true;
+    }
+    gzFile file = gzdopen(copy, "rb"); // closes the copy
+    if (file == nullptr) {
+        close(copy);
+        return true;
+    }
+    std::array<char, 16384> piece{};
     std::size_t total = 0;
     int count = 0;
-    while (total <= kLargestPPD && (count = gzread(file, piece.data(), kPiece)) > 0) {
+    while (total <= kLargestPPD && (count = gzread(file, piece.data(), piece.size())) > 0) {
         total += static_cast<std::size_t>(count);
     }
+    int error = Z_OK;
+    gzerror(file, &error);
     gzclose(file);
     lseek(descriptor, 0, SEEK_SET); // the copy shares its place
-    return total > kLargestPPD;
+    return total > kLargestPPD || (count < 0 && error != Z_BUF_ERROR);
 }
 
 } // namespace tessarin

@@ -12,22 +12,31 @@ namespace tessarin::host {
 
 namespace {
 
-/// The module's reader, which lives as long as the process; null when the module is not there.
-PdfReader *loadReader()
+struct Module {
+    PdfReader *reader = nullptr; ///< lives as long as the process
+    QString failure{};           ///< why there is none
+};
+
+Module loadModule()
 {
     QPluginLoader loader(QCoreApplication::applicationDirPath() + QStringLiteral("/" TESSARIN_PDF_MODULE_FROM_BIN));
-    return qobject_cast<PdfReader *>(loader.instance());
+    loader.setLoadHints(QLibrary::PreventUnloadHint);
+    Module module;
+    module.reader = qobject_cast<PdfReader *>(loader.instance());
+    module.failure = loader.errorString();
+    return module;
 }
 
 } // namespace
 
 OpenedPages openPdf(const QString &path)
 {
-    static PdfReader *const reader = loadReader();
-    if (reader == nullptr) {
-        return cannotShow(path, TessarinPrint::tr("the part of this program that reads PDF files is missing"));
+    static const Module module = loadModule();
+    if (module.reader == nullptr) {
+        const QString missing = TessarinPrint::tr("the part of this program that reads PDF files is missing");
+        return cannotShow(path, TessarinPrint::tr("%1: %2").arg(missing, module.failure));
     }
-    return reader->open(path);
+    return module.reader->open(path);
 }
 
 } // namespace tessarin::host

@@ -51,14 +51,15 @@ bool answers(http_t *http)
     return answered;
 }
 
-/// Whether options are saved under an instance of a queue.
-bool hasInstance(http_t *http, const QString &name, const QString &instance)
+/// IPP_STATUS_OK when options are saved under an instance of a queue; else why not, as far as the server says.
+ipp_status_t findInstance(http_t *http, const QString &name, const QString &instance)
 {
     cups_dest_t *all = nullptr;
     const int count = cupsGetDests2(http, &all);
+    const ipp_status_t status = cupsLastError();
     const bool found = cupsGetDest(name.toUtf8().constData(), instance.toUtf8().constData(), count, all) != nullptr;
     cupsFreeDests(count, all);
-    return found;
+    return found ? IPP_STATUS_OK : count > 0 ? IPP_STATUS_ERROR_NOT_FOUND : status;
 }
 
 Outcome<CupsConnection> unreachable(const QString &why)
@@ -119,10 +120,13 @@ Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QStr
                                     ? nullptr
                                     : cupsGetNamedDest(http, name.toUtf8().constData(),
                                                        instance.isEmpty() ? nullptr : instanceName.constData()));
-    if (destination && (instance.isEmpty() || hasInstance(http, name, instance))) {
-        return destination;
+    ipp_status_t status = name.isEmpty() ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
+    if (destination) {
+        status = instance.isEmpty() ? IPP_STATUS_OK : findInstance(http, name, instance);
+        if (status == IPP_STATUS_OK) {
+            return destination;
+        }
     }
-    const ipp_status_t status = destination || name.isEmpty() ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
     const bool unknown = status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND;
     const QString why =
         unknown ? TessarinPrint::tr("the print server %1 has no queue of this name").arg(printServerName())

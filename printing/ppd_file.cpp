@@ -36,7 +36,7 @@ QString unusable(int descriptor)
         return TessarinPrint::tr("it is not a regular file");
     }
     if (exceedsLargestPPD(descriptor)) {
-        return TessarinPrint::tr("it is larger than %1 MiB").arg(kLargestPPD / (1024UL * 1024));
+        return TessarinPrint::tr("it is larger than %1 MiB, or damaged").arg(kLargestPPD / (1024UL * 1024));
     }
     return status.st_size == 0 ? TessarinPrint::tr("the file is empty") : QString();
 }

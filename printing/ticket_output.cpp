@@ -11,6 +11,7 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace tessarin::host {
@@ -34,6 +35,19 @@ QString writeToStandardOutput(const QByteArray &text)
     return {};
 }
 
+/// Opens what is no regular file, without waiting for somebody to read from a pipe; the reason of a failure is in
+/// errno.
+bool openDevice(const QString &fileName, QFile &file)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(fileName).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (descriptor < 0) {
+        return false;
+    }
+    fcntl(descriptor, F_SETFL, 0); // who reads slowly is waited for
+    return file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+}
+
 } // namespace
 
 QString writeTicket(const JobTicket &ticket, const QString &fileName)
@@ -42,19 +56,18 @@ QString writeTicket(const JobTicket &ticket, const QString &fileName)
     if (fileName.isEmpty() || fileName == QLatin1String("-")) {
         return writeToStandardOutput(text);
     }
-    const auto failed = [&fileName](const QFileDevice &file) {
-        return TessarinPrint::tr("ticket file %1: %2").arg(fileName, file.errorString());
+    const auto failed = [&fileName](const QString &why) {
+        return TessarinPrint::tr("ticket file %1: %2").arg(fileName, why);
     };
     if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
         // A pipe or device is written to; a file would be put in its place.
-        QFile file(fileName);
-        const bool written =
-            file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(text) == text.size();
-        return written ? QString() : failed(file);
+        QFile file;
+        const bool written = openDevice(fileName, file) && file.write(text) == text.size();
+        return written ? QString() : failed(file.isOpen() ? file.errorString() : qt_error_string(errno));
     }
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        return failed(file);
+        return failed(file.errorString());
     }
     return {};
 }

@@ -23,7 +23,7 @@ rm -rf "$fuzzers/profiles"
 mkdir -p "$fuzzers/found" "$fuzzers/logs" "$fuzzers/profiles"
 
 export ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1
-export LSAN_OPTIONS=suppressions=$here/fuzz/lsan.supp:print_suppressions=0
+export LSAN_OPTIONS="suppressions='$here/fuzz/lsan.supp':print_suppressions=0"
 export UBSAN_OPTIONS=print_stacktrace=1
 
 fuzz() { # reader

@@ -23,11 +23,16 @@ remark() { # script, name, what stands for none
 }
 
 trace() { # name, PPD, script, options...
-    local name=$1 ppd=$2 script=$3 status=0
-    shift 3
-    timeout 300 "${checker[@]}" "$build/bin/tessarin-replay" --stable --ppd "$ppd" "$@" "$script" \
+    local name=$1 ppd=$2 script=$3 expected=$4 status=0
+    shift 4
+    "${checker[@]}" "$build/bin/tessarin-replay" --stable --ppd "$ppd" "$@" "$script" \
         >"$traces/$name.trace" 2>"$traces/$name.errors" || status=$?
     echo "status $status" >>"$traces/$name.trace"
+    if [ "$status" != "$expected" ]; then
+        echo "$name ended with $status in place of $expected" >&2
+        tail -n 40 "$traces/$name.errors" >&2
+        return 1
+    fi
 }
 
 golden() {
@@ -43,7 +48,7 @@ golden() {
         esac
         options=$(remark "$script" options "")
         # shellcheck disable=SC2086 # options are words
-        trace "golden-$name" "$ppd" "$script" ${options/--stable/}
+        trace "golden-$name" "$ppd" "$script" "$(remark "$script" status 0)" ${options/--stable/}
     done
 }
 
@@ -52,13 +57,7 @@ random() {
     cd "$traces"
     "$build/tests/write_sessions" . "$count"
     for ((number = 0; number < count; number++)); do
-        trace "random-$number" "$number.ppd" "$number.script"
-        # One that stops early would prove little.
-        if ! tail -n 1 "random-$number.trace" | grep -qx 'status 0'; then
-            echo "random session $number did not run to its end" >&2
-            cat "random-$number.errors" >&2
-            return 1
-        fi
+        trace "random-$number" "$number.ppd" "$number.script" 0
     done
 }
 
@@ -67,6 +66,7 @@ mkdir -p "$traces"
 traces=$(cd "$traces" && pwd)
 (golden) &
 pid=$!
+trap 'kill $pid 2>/dev/null; wait' EXIT
 (random)
 wait "$pid"
 echo "$(find "$traces" -name '*.trace' | wc -l) traces"

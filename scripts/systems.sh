@@ -11,6 +11,7 @@
 # Both need root, or sudo, and say so.
 
 system_suite=bookworm
+system_mark=made-for-tessarin
 as_root=()
 
 system_needs() { # folder, what is missing
@@ -25,7 +26,7 @@ system_needs() { # folder, what is missing
 system_mirror() {
     local mirror
     # shellcheck disable=SC2016 # apt's own placeholders
-    mirror=$(apt-get indextargets --format '$(RELEASE) $(COMPONENT) $(REPO_URI)' 'Identifier: Packages' 2>/dev/null |
+    mirror=$(apt-get indextargets --format '$(CODENAME) $(COMPONENT) $(REPO_URI)' 'Identifier: Packages' 2>/dev/null |
         awk -v suite=$system_suite '$1 == suite && $2 == "main" { print $3; exit }')
     echo "${mirror:-http://deb.debian.org/debian}"
 }
@@ -37,16 +38,29 @@ become_root() { # folder
     as_root=(sudo)
 }
 
+# Removes a system, and nothing that is none.
+system_remove() { # folder
+    if [ -e "$1" ] && [ ! -e "$1/$system_mark" ] && [ -n "$(ls -A "$1")" ]; then
+        system_needs "$1" "but what is there now was not made by this program: name another folder"
+        return 1
+    fi
+    "${as_root[@]}" rm -rf --one-file-system "$1"
+}
+
 system_make() { # folder, architecture, packages...
     local folder=$1 architecture=$2 mirror log
     shift 2
     become_root "$folder" || return 1
+    "${as_root[@]}" unshare --mount true 2>/dev/null ||
+        system_needs "$folder" "entering it needs mounts of its own, which are not allowed here" || return 1
     log=$(mktemp)
     if [ ! -e "$folder/made" ]; then
         mirror=$(system_mirror)
+        system_remove "$folder" || return 1
         echo "tessarin: making a Debian 12 ($architecture) in $folder" >&2
-        "${as_root[@]}" rm -rf --one-file-system "$folder"
-        if ! "${as_root[@]}" debootstrap --arch="$architecture" --variant=minbase --include=ca-certificates \
+        "${as_root[@]}" mkdir -p "$folder"
+        "${as_root[@]}" touch "$folder/$system_mark"
+        if ! "${as_root[@]}" env http_proxy="${http_proxy:-}" https_proxy="${https_proxy:-}" debootstrap --arch="$architecture" --variant=minbase --include=ca-certificates \
             "$system_suite" "$folder" "$mirror" >"$log" 2>&1; then
             tail -n 5 "$log" >&2
             system_needs "$folder" "it could not be made from $mirror: is there a network, and room for 2 GB?"
@@ -86,6 +100,7 @@ system_run() { # folder, shared folder, command...
         personality=linux64
         [ "$(chroot "$system" dpkg --print-architecture)" != i386 ] || personality=linux32
         exec chroot "$system" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 \
-            DEBIAN_FRONTEND=noninteractive CI="${CI:-}" setarch "$personality" \
+            DEBIAN_FRONTEND=noninteractive CI="${CI:-}" http_proxy="${http_proxy:-}" https_proxy="${https_proxy:-}" \
+            setarch "$personality" \
             bash -c "cd \"\$0\" && exec \"\$@\"" "$shared" "$@"' - "$@" </dev/null
 }

@@ -19,7 +19,7 @@ system_make "$base" "$(dpkg --print-architecture)" || exit 1
 
 # What follows runs within a copy, so that each trial begins with a fresh system.
 fresh=$base.trial
-"${as_root[@]}" rm -rf --one-file-system "$fresh"
+system_remove "$fresh" || exit 1
 "${as_root[@]}" cp -a "$base" "$fresh"
 trap '"${as_root[@]}" rm -rf --one-file-system "$fresh"' EXIT
 # shellcheck disable=SC2016 # for the shell within

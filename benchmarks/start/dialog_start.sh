@@ -19,7 +19,8 @@ for ((i = 1; i <= queues; i++)); do
     lpadmin -p "queue$i" -E -v file:/dev/null -m raw 2>/dev/null
 done
 [ "$(lpstat -p | grep -c '^printer')" = "$queues" ]
-measured=$("$build/benchmarks/start_times" 15 "$build/benchmarks/first_paint.so" \
+ln -s "$build/benchmarks/first_paint.so" "$work/first_paint.so" # a path that is preloaded may hold no blank
+measured=$("$build/benchmarks/start_times" 15 "$work/first_paint.so" \
     "$build/benchmarks/empty_window" "$build/bin/tessarin-print" --log none)
 ratio=${measured##* }
 echo "| dialog's cold start to its window, $queues queues / an empty window | $ratio | 1.2 |" \

@@ -1171,10 +1171,6 @@ Nicht gedruckt: %3</translation>
         <translation>ist ein Verzeichnis, keine PPD-Datei</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>ist größer als %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>PPD-Datei %1: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Nicht gedruckt: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>der Teil dieses Programms, der PDF-Dateien liest, fehlt</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>ist größer als %1 MiB oder beschädigt</translation>
     </message>
 </context>
 </TS>

@@ -1171,10 +1171,6 @@ Sin imprimir: %3</translation>
         <translation>es un directorio, no un archivo PPD</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>ocupa más de %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>archivo PPD %1: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Sin imprimir: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>falta la parte de este programa que lee archivos PDF</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>ocupa más de %1 MiB o está dañado</translation>
     </message>
 </context>
 </TS>

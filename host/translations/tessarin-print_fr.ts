@@ -1171,10 +1171,6 @@ Non imprimé&#xa0;: %3</translation>
         <translation>c’est un dossier, pas un fichier PPD</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>il dépasse %1&#xa0;Mio</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>fichier PPD %1&#xa0;: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Non imprimé&#xa0;: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>la partie de ce programme qui lit les fichiers PDF est absente</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>il dépasse %1 Mio ou est endommagé</translation>
     </message>
 </context>
 </TS>

@@ -1171,10 +1171,6 @@ Non stampato: %3</translation>
         <translation>è una cartella, non un file PPD</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>è più grande di %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>file PPD %1: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Non stampato: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>manca la parte di questo programma che legge i file PDF</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>è più grande di %1 MiB o danneggiato</translation>
     </message>
 </context>
 </TS>

@@ -1170,10 +1170,6 @@ Not printed: %3</source>
         <translation>PPD ファイルではなくディレクトリです</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>%1 MiB を超えています</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>PPD ファイル %1: %2</translation>
     </message>
@@ -1470,6 +1466,10 @@ Not printed: %3</source>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>PDF ファイルを読み込むためのこのプログラムの部品がありません</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>%1 MiB を超えているか、壊れています</translation>
     </message>
 </context>
 </TS>

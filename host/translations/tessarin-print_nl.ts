@@ -1171,10 +1171,6 @@ Niet afgedrukt: %3</translation>
         <translation>is een map, geen PPD-bestand</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>is groter dan %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>PPD-bestand %1: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Niet afgedrukt: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>het onderdeel van dit programma dat pdf-bestanden leest, ontbreekt</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>is groter dan %1 MiB of beschadigd</translation>
     </message>
 </context>
 </TS>

@@ -1172,10 +1172,6 @@ Nie wydrukowano: %3</translation>
         <translation>to jest katalog, a nie plik PPD</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>jest większy niż %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>plik PPD %1: %2</translation>
     </message>
@@ -1474,6 +1470,10 @@ Nie wydrukowano: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>brakuje części tego programu, która odczytuje pliki PDF</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>jest większy niż %1 MiB lub uszkodzony</translation>
     </message>
 </context>
 </TS>

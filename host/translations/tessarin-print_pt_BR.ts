@@ -1171,10 +1171,6 @@ Não impresso: %3</translation>
         <translation>é um diretório, não um arquivo PPD</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>é maior que %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>arquivo PPD %1: %2</translation>
     </message>
@@ -1472,6 +1468,10 @@ Não impresso: %3</translation>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>falta a parte deste programa que lê arquivos PDF</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>é maior que %1 MiB ou está danificado</translation>
     </message>
 </context>
 </TS>

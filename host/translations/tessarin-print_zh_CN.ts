@@ -1170,10 +1170,6 @@ Not printed: %3</source>
         <translation>是目录，不是 PPD 文件</translation>
     </message>
     <message>
-        <source>it is larger than %1 MiB</source>
-        <translation>大于 %1 MiB</translation>
-    </message>
-    <message>
         <source>PPD file %1: %2</source>
         <translation>PPD 文件 %1：%2</translation>
     </message>
@@ -1470,6 +1466,10 @@ Not printed: %3</source>
     <message>
         <source>the part of this program that reads PDF files is missing</source>
         <translation>缺少本程序中读取 PDF 文件的部分</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB, or damaged</source>
+        <translation>超过 %1 MiB 或已损坏</translation>
     </message>
 </context>
 </TS>

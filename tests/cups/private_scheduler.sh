@@ -10,6 +10,7 @@
 
 scheduler=
 scheduler_pid=
+PATH=$PATH:/usr/sbin:/sbin # where the scheduler and its tools are, which is not on everybody's path
 
 free_port() {
     local port

@@ -166,7 +166,8 @@ TEST_P(CompressedBomb, IsRefusedInLessMemoryThanItUnfoldsTo)
     EXPECT_LT(QFileInfo(path).size(), 3'000'000);
     const Ended ended = program.run({u"--ppd"_s, path, u"--summary"_s});
     EXPECT_EQ(ended.code, 3);
-    EXPECT_TRUE(ended.errors.contains(u"bomb.ppd: it is larger than 24 MiB"_s)) << ended.errors.toStdString();
+    EXPECT_TRUE(ended.errors.contains(u"bomb.ppd: it is larger than 24 MiB, or damaged"_s))
+        << ended.errors.toStdString();
     struct rusage children = {};
     ASSERT_EQ(getrusage(RUSAGE_CHILDREN, &children), 0);
     EXPECT_LT(children.ru_maxrss * 1024, kUnfolded);
@@ -177,6 +178,16 @@ INSTANTIATE_TEST_SUITE_P(Contents, CompressedBomb,
                                          Bomb{"one_line", QByteArray(64, 'x')}, Bomb{"attributes", "*A: \"\"\n"},
                                          Bomb{"empty_lines", "\n"}),
                          [](const testing::TestParamInfo<Bomb> &row) { return std::string(row.param.name); });
+
+TEST(TicketToAPipe, ThatNobodyReadsIsToldAtOnce)
+{
+    const Program program;
+    const QString path = program.path(u"pipe"_s);
+    ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
+    const Ended ended = program.run(withSample({u"--ticket"_s, path}));
+    EXPECT_EQ(ended.code, 2);
+    EXPECT_TRUE(ended.errors.contains(u"ticket file %1: "_s.arg(path))) << ended.errors.toStdString();
+}
 
 TEST(TicketToAPipe, LeavesThePipeThere)
 {

@@ -17,6 +17,8 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 
 namespace tessarin::test {
 namespace {
@@ -77,6 +79,49 @@ TEST(BadPpdFile, ThatUnfoldsBeyondTheLargestIsNotOpened)
     }
     close(descriptor);
     unlink(path.c_str());
+}
+
+/// A file of these bytes, gone with the object.
+class BytesFile {
+public:
+    explicit BytesFile(const std::string &bytes)
+    {
+        const int descriptor = mkstemp(path_.data());
+        EXPECT_EQ(write(descriptor, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+        close(descriptor);
+    }
+    ~BytesFile() { unlink(path_.c_str()); }
+    BytesFile(const BytesFile &) = delete;
+    BytesFile &operator=(const BytesFile &) = delete;
+
+    const char *path() const { return path_.c_str(); }
+
+private:
+    std::string path_ = "/tmp/tessarin-bytes-XXXXXX";
+};
+
+/// A small PPD, compressed.
+std::string compressedStart()
+{
+    const BytesFile file("");
+    gzFile packed = gzopen(file.path(), "wb");
+    gzputs(packed, "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n");
+    gzclose(packed);
+    std::ifstream stream(file.path(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+TEST(BadPpdFile, ThatIsCompressedAtFirstAndPlainBeyondTheLargestIsNotOpened)
+{
+    EXPECT_NE(openPPD(BytesFile(compressedStart()).path()), nullptr);
+    EXPECT_EQ(openPPD(BytesFile(compressedStart() + std::string(kLargestPPD, '\n')).path()), nullptr);
+}
+
+TEST(BadPpdFile, WithADamagedHeaderOfItsCompressionIsNotOpened)
+{
+    std::string bytes = compressedStart();
+    bytes[3] = static_cast<char>(bytes[3] | 2); // a checksum of the header, which is none
+    EXPECT_EQ(openPPD(BytesFile(bytes).path()), nullptr);
 }
 
 TEST(BadPpdScan, WithAByteOrderMarkSeesTheLinesBehindIt)
