@@ -15,7 +15,7 @@ fuzzers=$1
 seconds=$2
 shift 2
 here=$(cd "$(dirname "$0")/../tests" && pwd)
-all_readers=(keyword_scanner printer_ppd counter_text extra_data formatter preset_file replay_script)
+all_readers=(keyword_scanner printer_ppd dialog_ppd counter_text extra_data formatter preset_file replay_script)
 readers=("$@")
 [ $# -gt 0 ] || readers=("${all_readers[@]}")
 least_lines=95 # percent
@@ -29,14 +29,15 @@ export UBSAN_OPTIONS=print_stacktrace=1
 fuzz() { # reader
     local reader=$1 log=$fuzzers/logs/$1.log corpus=$fuzzers/corpus/$1 seeds=("$here/fuzz/corpus/$1") dictionary=()
     case $reader in
-    keyword_scanner | printer_ppd)
-        seeds+=("$here/fixtures/ppd")
+    keyword_scanner | printer_ppd | dialog_ppd)
+        seeds+=("$here/fixtures/ppd" "$here/fixtures/bad/ppd")
         dictionary=(-dict="$here/fuzz/ppd.dict")
         ;;
     counter_text)
         seeds+=("$here/fixtures/ink")
         dictionary=(-dict="$here/fuzz/ink.dict")
         ;;
+    extra_data) dictionary=(-dict="$here/fuzz/extra.dict") ;;
     formatter) dictionary=(-dict="$here/fuzz/format.dict") ;;
     preset_file) dictionary=(-dict="$here/fuzz/preset.dict") ;;
     replay_script) dictionary=(-dict="$here/fuzz/replay.dict") ;;
