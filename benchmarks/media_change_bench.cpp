@@ -73,6 +73,7 @@ std::vector<Refill> refillsOf(test::PanelSession &session, int index)
 {
     std::set<int> rows;
     std::vector<QMetaObject::Connection> connections;
+    connections.reserve(static_cast<std::size_t>(kRows));
     for (int row = 0; row < kRows; ++row) {
         connections.push_back(QObject::connect(session.popup(row)->model(), &QAbstractItemModel::rowsRemoved,
                                                [&rows, row] { rows.insert(row); }));

@@ -19,7 +19,7 @@ using namespace tessarin;
 
 namespace {
 
-constexpr std::size_t kMiB = 1024 * 1024;
+constexpr std::size_t kMiB = 1024UL * 1024;
 
 void scan(const std::string &path, ppd_file_s *ppd)
 {
@@ -54,14 +54,16 @@ std::string largePPD(std::size_t size)
     text << file.rdbuf();
     std::string ppd = text.str();
     ppd.reserve(size + 1024);
+    const std::string block = "*OpenUI *Foreign#/Foreign: PickOne\n*DefaultForeign#: One\n"
+                              "*Foreign# One/Choice One: \"<</Foreign /One>>setpagedevice\"\n"
+                              "*Foreign# Two/Choice Two: \"<</Foreign /Two>>setpagedevice\"\n"
+                              "*Foreign# Three/Choice Three: \"<</Foreign /Three>>setpagedevice\"\n"
+                              "*CloseUI: *Foreign#\n*UIConstraints: *Foreign# Two *PageSize A4\n";
     for (int number = 0; ppd.size() < size; ++number) {
-        const std::string name = "Foreign" + std::to_string(number);
-        ppd += "*OpenUI *" + name + "/" + name + ": PickOne\n*Default" + name + ": One\n";
-        for (const char *choice : {"One", "Two", "Three", "Four"}) {
-            ppd += "*" + name + " " + choice + "/Choice " + choice + ": \"<</Foreign /" + choice +
-                   ">>setpagedevice\"\n";
+        const std::string name = std::to_string(number);
+        for (const char letter : block) {
+            ppd.append(letter == '#' ? name : std::string(1, letter));
         }
-        ppd += "*CloseUI: *" + name + "\n*UIConstraints: *" + name + " Two *PageSize A4\n";
     }
     return ppd;
 }

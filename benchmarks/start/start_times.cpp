@@ -44,7 +44,7 @@ double median(std::vector<double> values)
 
 int main(int argc, char **argv)
 {
-    const int rounds = argc >= 5 ? std::atoi(argv[1]) : 0;
+    const int rounds = argc >= 5 ? static_cast<int>(std::strtol(argv[1], nullptr, 10)) : 0;
     if (rounds <= 0) {
         std::fprintf(stderr,
                      "usage: start_times <rounds> <library> <first program> <second program> [argument]...\n");
