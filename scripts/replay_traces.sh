@@ -66,7 +66,7 @@ mkdir -p "$traces"
 traces=$(cd "$traces" && pwd)
 (golden) &
 pid=$!
-trap 'kill $pid 2>/dev/null; wait' EXIT
+trap 'kill $pid 2>/dev/null || true; wait' EXIT
 (random)
 wait "$pid"
 echo "$(find "$traces" -name '*.trace' | wc -l) traces"
