@@ -51,7 +51,7 @@ system_make() { # folder, architecture, packages...
     local folder=$1 architecture=$2 mirror log
     shift 2
     become_root "$folder" || return 1
-    "${as_root[@]}" unshare --mount true 2>/dev/null ||
+    "${as_root[@]}" unshare --mount --propagation unchanged true 2>/dev/null ||
         system_needs "$folder" "entering it needs mounts of its own, which are not allowed here" || return 1
     log=$(mktemp)
     if [ ! -e "$folder/made" ]; then
