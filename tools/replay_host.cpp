@@ -45,7 +45,8 @@ void ReplayHost::mark(const QString &key, const QString &choice)
 {
     const QByteArray option = key.toUtf8();
     const QByteArray name = choice.toUtf8();
-    ppd_option_t *found = ppdFindOption(ppd_, option.constData());
+    // Of an empty name libcups would look at letters behind its end.
+    ppd_option_t *found = option.isEmpty() ? nullptr : ppdFindOption(ppd_, option.constData());
     if (found != nullptr && ppdFindChoice(found, name.constData()) != nullptr) {
         ppdMarkOption(ppd_, option.constData(), name.constData());
     }
