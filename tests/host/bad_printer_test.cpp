@@ -150,10 +150,18 @@ TEST(BadPrinter, ShowsTextsInHexadecimalDecoded)
                                               u"Quote1/qu\"ote {brace}"_s, u"Word1/Hex"_s}));
 }
 
+// The library makes room for each choice anew; under a sanitizer, which then copies all of them, so many take
+// minutes.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int kManyChoices = 4096;
+#else
+constexpr int kManyChoices = 65536;
+#endif
+
 TEST(BadPrinter, OffersEveryOneOf65536Choices)
 {
     QByteArray lines;
-    for (int i = 0; i < 65536; ++i) {
+    for (int i = 0; i < kManyChoices; ++i) {
         lines += "*vornMediaType X" + QByteArray::number(i) + "/Text: \"\"\n";
     }
     QTemporaryDir folder;
@@ -162,9 +170,10 @@ TEST(BadPrinter, OffersEveryOneOf65536Choices)
     test::writeFile(path, test::readFile(test::fixture("minimal.ppd")).replace(close, lines + close));
     const auto settings = test::settingsOf(path);
     ASSERT_TRUE(settings);
-    EXPECT_EQ(catalogueOption(settings->printer(), u"vornMediaType"_s).choices.size(), 65539);
-    EXPECT_TRUE(settings->set(u"vornMediaType"_s, u"X65535"_s, ChangeOrigin::Page));
-    EXPECT_EQ(settings->value(u"vornMediaType"_s), u"X65535"_s);
+    EXPECT_EQ(catalogueOption(settings->printer(), u"vornMediaType"_s).choices.size(), kManyChoices + 3);
+    const QString last = u"X%1"_s.arg(kManyChoices - 1);
+    EXPECT_TRUE(settings->set(u"vornMediaType"_s, last, ChangeOrigin::Page));
+    EXPECT_EQ(settings->value(u"vornMediaType"_s), last);
 }
 
 } // namespace
