@@ -60,8 +60,9 @@ system_make() { # folder, architecture, packages...
         echo "tessarin: making a Debian 12 ($architecture) in $folder" >&2
         "${as_root[@]}" mkdir -p "$folder"
         "${as_root[@]}" touch "$folder/$system_mark"
-        if ! "${as_root[@]}" env http_proxy="${http_proxy:-}" https_proxy="${https_proxy:-}" debootstrap --arch="$architecture" --variant=minbase --include=ca-certificates \
-            "$system_suite" "$folder" "$mirror" >"$log" 2>&1; then
+        if ! "${as_root[@]}" env http_proxy="${http_proxy:-}" https_proxy="${https_proxy:-}" \
+            debootstrap --arch="$architecture" --variant=minbase --include=ca-certificates "$system_suite" "$folder" \
+            "$mirror" >"$log" 2>&1; then
             tail -n 5 "$log" >&2
             system_needs "$folder" "it could not be made from $mirror: is there a network, and room for 2 GB?"
             return 1

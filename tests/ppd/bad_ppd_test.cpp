@@ -14,8 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -62,66 +60,41 @@ std::string badPpd(const char *name)
 const Pairs kTwoMedia{{"Plain1", "Plain Paper"}, {"Photo6", "Photo Paper"}};
 const Group kPlainWith1200{1, 0, 2, 1};
 
-TEST(BadPpdFile, ThatUnfoldsBeyondTheLargestIsNotOpened)
+const std::string kPpdStart = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n";
+
+std::string compressed(const std::string &text)
 {
-    std::string path = "/tmp/tessarin-large-XXXXXX";
-    const int descriptor = mkstemp(path.data());
-    ASSERT_GE(descriptor, 0);
-    for (const bool isLarger : {false, true}) {
-        ASSERT_EQ(lseek(descriptor, 0, SEEK_SET), 0);
-        gzFile file = gzdopen(dup(descriptor), "wb1");
-        const std::string start = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n";
-        gzwrite(file, start.data(), static_cast<unsigned>(start.size()));
-        const std::string lines(kLargestPPD - start.size() + (isLarger ? 1 : 0), '\n');
-        gzwrite(file, lines.data(), static_cast<unsigned>(lines.size()));
-        ASSERT_EQ(gzclose(file), Z_OK);
-        EXPECT_EQ(openPPD(path.c_str()) == nullptr, isLarger);
-    }
-    close(descriptor);
-    unlink(path.c_str());
-}
-
-/// A file of these bytes, gone with the object.
-class BytesFile {
-public:
-    explicit BytesFile(const std::string &bytes)
-    {
-        const int descriptor = mkstemp(path_.data());
-        EXPECT_EQ(write(descriptor, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-        close(descriptor);
-    }
-    ~BytesFile() { unlink(path_.c_str()); }
-    BytesFile(const BytesFile &) = delete;
-    BytesFile &operator=(const BytesFile &) = delete;
-
-    const char *path() const { return path_.c_str(); }
-
-private:
-    std::string path_ = "/tmp/tessarin-bytes-XXXXXX";
-};
-
-/// A small PPD, compressed.
-std::string compressedStart()
-{
-    const BytesFile file("");
-    gzFile packed = gzopen(file.path(), "wb");
-    gzputs(packed, "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n");
-    gzclose(packed);
+    const TextFile file("");
+    gzFile packed = gzopen(file.path().c_str(), "wb1");
+    EXPECT_EQ(gzwrite(packed, text.data(), static_cast<unsigned>(text.size())), static_cast<int>(text.size()));
+    EXPECT_EQ(gzclose(packed), Z_OK);
     std::ifstream stream(file.path(), std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+bool isOpened(const std::string &bytes)
+{
+    return openPPD(TextFile(bytes).path().c_str()) != nullptr;
+}
+
+TEST(BadPpdFile, ThatUnfoldsBeyondTheLargestIsNotOpened)
+{
+    const std::string largest = kPpdStart + std::string(kLargestPPD - kPpdStart.size(), '\n');
+    EXPECT_TRUE(isOpened(compressed(largest)));
+    EXPECT_FALSE(isOpened(compressed(largest + '\n')));
+}
+
 TEST(BadPpdFile, ThatIsCompressedAtFirstAndPlainBeyondTheLargestIsNotOpened)
 {
-    EXPECT_NE(openPPD(BytesFile(compressedStart()).path()), nullptr);
-    EXPECT_EQ(openPPD(BytesFile(compressedStart() + std::string(kLargestPPD, '\n')).path()), nullptr);
+    EXPECT_TRUE(isOpened(compressed(kPpdStart)));
+    EXPECT_FALSE(isOpened(compressed(kPpdStart) + std::string(kLargestPPD, '\n')));
 }
 
 TEST(BadPpdFile, WithADamagedHeaderOfItsCompressionIsNotOpened)
 {
-    std::string bytes = compressedStart();
+    std::string bytes = compressed(kPpdStart);
     bytes[3] = static_cast<char>(bytes[3] | 2); // a checksum of the header, which is none
-    EXPECT_EQ(openPPD(BytesFile(bytes).path()), nullptr);
+    EXPECT_FALSE(isOpened(bytes));
 }
 
 TEST(BadPpdScan, WithAByteOrderMarkSeesTheLinesBehindIt)
