@@ -3,6 +3,7 @@
 
 #include "printing/cups_connection.h"
 
+#include "printing/destination_list.h"
 #include "printing/text.h"
 
 #include <chrono>
@@ -49,17 +50,6 @@ bool answers(http_t *http)
     const bool answered = response != nullptr;
     ippDelete(response);
     return answered;
-}
-
-/// IPP_STATUS_OK when options are saved under an instance of a queue; else why not, as far as the server says.
-ipp_status_t findInstance(http_t *http, const QString &name, const QString &instance)
-{
-    cups_dest_t *all = nullptr;
-    const int count = cupsGetDests2(http, &all);
-    const ipp_status_t status = cupsLastError();
-    const bool found = cupsGetDest(name.toUtf8().constData(), instance.toUtf8().constData(), count, all) != nullptr;
-    cupsFreeDests(count, all);
-    return found ? IPP_STATUS_OK : count > 0 ? IPP_STATUS_ERROR_NOT_FOUND : status;
 }
 
 Outcome<CupsConnection> unreachable(const QString &why)
@@ -121,11 +111,15 @@ Outcome<CupsDestination> findQueue(http_t *http, const QString &name, const QStr
                                     : cupsGetNamedDest(http, name.toUtf8().constData(),
                                                        instance.isEmpty() ? nullptr : instanceName.constData()));
     ipp_status_t status = name.isEmpty() ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
+    if (destination && instance.isEmpty()) {
+        return destination;
+    }
     if (destination) {
-        status = instance.isEmpty() ? IPP_STATUS_OK : findInstance(http, name, instance);
-        if (status == IPP_STATUS_OK) {
+        const DestinationList all(http);
+        if (all.find({.queue = name, .instance = instance}) != nullptr) {
             return destination;
         }
+        status = all.count() > 0 ? IPP_STATUS_ERROR_NOT_FOUND : cupsLastError();
     }
     const bool unknown = status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_NOT_FOUND;
     const QString why =
