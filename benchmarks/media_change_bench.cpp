@@ -8,6 +8,7 @@
 #include "controls/menu_items.h"
 #include "tests/support/panel_session.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
@@ -50,7 +51,17 @@ void chooseMedium(test::PanelSession &session, int index)
     emit media->activated(index);
 }
 
-void mediaChange(benchmark::State &state)
+/// Whether a round ends with the change done, or once what it changed is on the screen.
+enum class Until { done, drawn };
+
+void finish(Until until)
+{
+    if (until == Until::drawn) {
+        QCoreApplication::processEvents();
+    }
+}
+
+void mediaChange(benchmark::State &state, Until until)
 {
     test::PanelSession session;
     const ShownView shown(session);
@@ -58,6 +69,7 @@ void mediaChange(benchmark::State &state)
     for ([[maybe_unused]] auto round : state) {
         index = index == 0 ? 1 : 0;
         chooseMedium(session, index);
+        finish(until);
     }
 }
 
@@ -109,7 +121,7 @@ void fill(const Refill &refill)
     refill.popup->setCurrentIndex(refill.current);
 }
 
-void mediaRefills(benchmark::State &state)
+void mediaRefills(benchmark::State &state, Until until)
 {
     test::PanelSession session;
     const ShownView shown(session);
@@ -119,6 +131,7 @@ void mediaRefills(benchmark::State &state)
         for (const Refill &refill : refills[which]) {
             fill(refill);
         }
+        finish(until);
         which = 1 - which;
     }
     state.counters["pop-ups"] = static_cast<double>(refills[0].size() + refills[1].size()) / 2;
@@ -126,5 +139,7 @@ void mediaRefills(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(mediaChange)->Name("media_change")->Unit(benchmark::kMicrosecond);
-BENCHMARK(mediaRefills)->Name("media_refills")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(mediaChange, done, Until::done)->Name("media_change")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(mediaRefills, done, Until::done)->Name("media_refills")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(mediaChange, drawn, Until::drawn)->Name("media_change_drawn")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(mediaRefills, drawn, Until::drawn)->Name("media_refills_drawn")->Unit(benchmark::kMicrosecond);

@@ -8,8 +8,9 @@
 #include "platform/log_sink.h"
 #include "tests/support/panel_session.h"
 
-#include <QBuffer>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QUiLoader>
@@ -59,10 +60,12 @@ void panelFloor(benchmark::State &state)
         QFile file(path);
         QUiLoader loader;
         loader.clearPluginPaths();
+        loader.setWorkingDirectory(QFileInfo(path).dir());
         const std::unique_ptr<QWidget> view(file.open(QIODevice::ReadOnly) ? loader.load(&file) : nullptr);
         if (!view) {
             bench::giveUp(path.toStdString() + ": " + loader.errorString().toStdString());
         }
+        view->setFixedSize(view->size()); // it has no layout: without a size nothing would be painted
         showAlone(*view);
     }
 }

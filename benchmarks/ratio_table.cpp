@@ -10,10 +10,11 @@ namespace tessarin::bench {
 
 namespace {
 
-constexpr std::array<Ratio, 13> kRatios{{
+constexpr std::array<Ratio, 14> kRatios{{
     {"panel open / its interface file, `ppdOpenFile`, first paint", "panel_open", "panel_floor", 1, 1.25},
     {"panel open / `QPrintDialog`", "panel_open", "qt_print_dialog", 1, 1.0},
     {"media change / the same refills with bare toolkit calls", "media_change", "media_refills", 1, 1.5},
+    {"the same, both until they are drawn", "media_change_drawn", "media_refills_drawn", 1, 1.5},
     {"scan and choice lists / `ppdOpenFile`, sample PPD", "scan_sample", "libcups_sample", 1, 0.3},
     {"scan of 4 MiB, per byte / 1 MiB", "scan_mib/4", "scan_mib/1", 4, 1.1},
     {"scan of 16 MiB, per byte / 1 MiB", "scan_mib/16", "scan_mib/1", 16, 1.1},

@@ -19,6 +19,7 @@ namespace {
 constexpr int kMostCopies = 9999;
 constexpr int kSpacing = 12;
 constexpr char kPageSize[] = "PageSize";
+constexpr int kLongest = 24; // characters that a pop-up makes room for
 constexpr char kDuplex[] = "Duplex";
 
 } // namespace
@@ -54,6 +55,23 @@ GeneralPage::GeneralPage(JobSettings &settings, QWidget *parent)
 }
 
 QStringList GeneralPage::optionKeys()
+namespace {
+
+/// Gives a pop-up room for its choices, the longest ones excepted: they must not push the preview aside.
+void makeRoom(QComboBox &box)
+{
+    const QFontMetrics metrics = box.fontMetrics();
+    int widest = 0;
+    for (int i = 0; i < box.count(); ++i) {
+        widest = qMax(widest, metrics.horizontalAdvance(box.itemText(i)));
+    }
+    const int character = qMax(1, metrics.horizontalAdvance(u'X')); // the toolkit's measure
+    box.setMinimumContentsLength(
+        qBound(box.minimumContentsLength(), (widest + character - 1) / character, kLongest));
+}
+
+} // namespace
+
 {
     return {QLatin1String(kPageSize), QLatin1String(kDuplex)};
 }
@@ -72,6 +90,7 @@ void GeneralPage::addOption(QFormLayout *form, const QString &caption, const cha
         connect(box, &OptionBox::moreWanted, this, &GeneralPage::askForSize);
     }
     options_ << box;
+    makeRoom(*box);
 }
 
 void GeneralPage::askForSize()

@@ -5,7 +5,9 @@
 
 #include "cups/ppd_library.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -37,12 +39,37 @@ const char *messageOf(const z_stream &stream)
     return stream.msg != nullptr ? stream.msg : "(null)";
 }
 
-std::string attributeName(const char *prefix, unsigned number)
-{
-    std::array<char, kAttributeNameSize> name{};
-    std::snprintf(name.data(), name.size(), "%s%04x", prefix, number);
-    return name.data();
-}
+/// The names of a block's attributes: the block's name and, in at least four hexadecimal digits, a number; cut at
+/// 40 characters. A block of some megabytes has tens of thousands of them.
+class AttributeNames {
+public:
+    explicit AttributeNames(std::string_view block) : prefix_(std::min(block.size(), kAttributeNameSize - 1))
+    {
+        std::copy_n(block.begin(), prefix_, name_.begin());
+    }
+
+    /// Valid until the next call.
+    const char *of(unsigned number)
+    {
+        constexpr std::size_t shortest = 4;
+        std::array<char, 8> digits{};
+        const auto end = std::to_chars(digits.begin(), digits.end(), number, 16).ptr;
+        const auto count = static_cast<std::size_t>(end - digits.begin());
+        std::string_view zeros = "0000";
+        zeros.remove_prefix(std::min(count, shortest));
+        std::size_t length = prefix_;
+        for (const std::string_view part : {zeros, std::string_view(digits.data(), count)}) {
+            const std::size_t room = kAttributeNameSize - 1 - length;
+            length += part.copy(name_.data() + length, room);
+        }
+        name_[length] = '\0';
+        return name_.data();
+    }
+
+private:
+    std::array<char, kAttributeNameSize> name_{};
+    std::size_t prefix_;
+};
 
 /// Inflates chunk after chunk into one growing buffer.
 class Inflater {
@@ -191,7 +218,8 @@ char *ppdxReadData(ppd_file_s *ppd, const char *name, std::size_t *length)
     if (ppd == nullptr || name == nullptr) {
         return nullptr;
     }
-    const ppd_attr_t *attribute = ppdFindAttr(ppd, attributeName(name, 0).c_str(), nullptr);
+    AttributeNames names(name);
+    const ppd_attr_t *attribute = ppdFindAttr(ppd, names.of(0), nullptr);
     if (attribute == nullptr) {
         return nullptr;
     }
@@ -209,7 +237,7 @@ char *ppdxReadData(ppd_file_s *ppd, const char *name, std::size_t *length)
         if (!inflater.take(reinterpret_cast<unsigned char *>(chunk.data()), static_cast<std::size_t>(size))) {
             return nullptr;
         }
-        attribute = ppdFindAttr(ppd, attributeName(name, number).c_str(), nullptr);
+        attribute = ppdFindAttr(ppd, names.of(number), nullptr);
     }
     return inflater.finish(length);
 }

@@ -3,6 +3,7 @@
 
 #include "platform/interface_loader.h"
 
+#include "platform/interface_scale.h"
 #include "platform/popup_button.h"
 #include "platform/tab_view.h"
 
@@ -68,7 +69,9 @@ std::unique_ptr<QWidget> loadInterfaceFile(const QString &path, const QHash<QStr
     std::unique_ptr<QWidget> view(loader.load(&buffer));
     if (!view) {
         *reason = path + QStringLiteral(": ") + loader.errorString();
+        return nullptr;
     }
+    scaleInterface(view.get(), interfaceScale(view->font()));
     return view;
 }
 

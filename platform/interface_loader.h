@@ -19,8 +19,8 @@ namespace tessarin {
 using ViewMaker = std::function<QWidget *(QWidget *parent)>;
 
 /// Loads the interface file at `path`. The classes "PopUpButton" and "TabView" are known; `makers` adds more by
-/// class name. Texts stay as the file gives them. The caller owns the result; on failure it is null, with the
-/// reason (file and line where there is one) in `reason`.
+/// class name. Texts stay as the file gives them; places are scaled for the font (interface_scale.h). The caller
+/// owns the result; on failure it is null, with the reason (file and line where there is one) in `reason`.
 std::unique_ptr<QWidget> loadInterfaceFile(const QString &path, const QHash<QString, ViewMaker> &makers,
                                            QString *reason);
 

@@ -3,15 +3,38 @@
 
 #include "platform/popup_button.h"
 
+#include <QFontMetrics>
 #include <QListView>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+
+#include <algorithm>
 
 namespace tessarin {
 
-PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent)
+namespace {
+
+constexpr int kShownLetters = 6;
+
+} // namespace
+
+// The toolkit's own size policies would make the list of each pop-up at once, before anyone opens it.
+PopUpButton::PopUpButton(QWidget *parent) : QComboBox(parent) {}
+
+QSize PopUpButton::sizeHint() const
 {
-    // The panel gives every pop-up its place; a long choice must not push it wider.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(6);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QFontMetrics metrics = fontMetrics();
+    // As the toolkit counts: no icon is lower than 14, and a choice has a line of room above and below.
+    const QSize content(kShownLetters * metrics.horizontalAdvance(QLatin1Char('X')),
+                        std::max(metrics.height(), 14) + 2);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this);
+}
+
+QSize PopUpButton::minimumSizeHint() const
+{
+    return sizeHint();
 }
 
 void PopUpButton::showPopup()

@@ -25,6 +25,11 @@ public:
     explicit PopUpButton(QWidget *parent = nullptr);
 
     void showPopup() override;
+
+    /// Room for six letters, whatever the choices are: the panel gives every pop-up its place, and a long choice
+    /// must not push it wider.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 };
 
 } // namespace tessarin

@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace tessarin {
 
 namespace {
@@ -22,6 +24,55 @@ QHash<qintptr, QPointer<QWidget>> &knownHandles()
 {
     static QHash<qintptr, QPointer<QWidget>> handles;
     return handles;
+}
+
+/// What is known of a view's tag. The toolkit finds a property by comparing names through all classes, and a panel
+/// asks for tags some thousand times while it opens.
+struct KnownTag {
+    QPointer<const QWidget> view;     ///< another view may come to lie at the address of one that has gone
+    const LevelView *level = nullptr; ///< keeps its tag itself
+    qintptr tag = 0;
+};
+
+/// The tags by view. Entries of views that have gone are dropped whenever their number has doubled.
+class KnownTags {
+public:
+    KnownTag &of(const QWidget *view);
+
+private:
+    static KnownTag read(const QWidget *view);
+
+    QHash<const QWidget *, KnownTag> tags_;
+    qsizetype limit_ = 256;
+};
+
+KnownTag KnownTags::read(const QWidget *view)
+{
+    KnownTag known{.view = view, .level = dynamic_cast<const LevelView *>(view), .tag = isControl(view) ? 0 : -1};
+    const QVariant value = view->property(kTagProperty);
+    if (value.isValid()) {
+        known.tag = static_cast<qintptr>(value.toLongLong());
+    }
+    return known;
+}
+
+KnownTag &KnownTags::of(const QWidget *view)
+{
+    if (tags_.size() >= limit_) {
+        tags_.removeIf([](const auto &entry) { return entry.value().view.isNull(); });
+        limit_ = std::max<qsizetype>(256, 2 * tags_.size());
+    }
+    KnownTag &known = tags_[view];
+    if (known.view.isNull()) {
+        known = read(view);
+    }
+    return known;
+}
+
+KnownTag &knownTag(const QWidget *view)
+{
+    static KnownTags tags;
+    return tags.of(view);
 }
 
 void dropDeadHandles(QHash<qintptr, QPointer<QWidget>> &handles)
@@ -44,14 +95,8 @@ qintptr tagOf(const QWidget *view)
     if (view == nullptr) {
         return 0;
     }
-    if (const auto *level = dynamic_cast<const LevelView *>(view)) {
-        return level->tag();
-    }
-    const QVariant value = view->property(kTagProperty);
-    if (value.isValid()) {
-        return static_cast<qintptr>(value.toLongLong());
-    }
-    return isControl(view) ? 0 : -1;
+    const KnownTag &known = knownTag(view);
+    return known.level != nullptr ? known.level->tag() : known.tag;
 }
 
 void setTagOf(QWidget *view, qintptr tag)
@@ -59,10 +104,11 @@ void setTagOf(QWidget *view, qintptr tag)
     if (view == nullptr) {
         return;
     }
-    if (auto *level = dynamic_cast<LevelView *>(view)) {
-        level->setTag(tag);
+    KnownTag &known = knownTag(view);
+    if (known.level != nullptr) {
+        dynamic_cast<LevelView *>(view)->setTag(tag);
     } else {
-        view->setProperty(kTagProperty, static_cast<qlonglong>(tag));
+        known.tag = tag;
     }
 }
 

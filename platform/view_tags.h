@@ -10,7 +10,8 @@
 
 namespace tessarin {
 
-/// Name of the property in the interface file that gives a view its tag.
+/// Name of the property in the interface file that gives a view its tag. It counts as it stands when the view is
+/// first asked for its tag; later only setTagOf() changes it.
 inline constexpr char kTagProperty[] = "tag";
 
 /// Whether the view is a control (pop-up, slider, button, check box, text field), not a plain view.

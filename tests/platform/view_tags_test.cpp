@@ -20,8 +20,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
 #include <limits>
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace tessarin {
@@ -83,6 +86,34 @@ TEST(ViewTags, AreReadFromThePropertyOfTheInterfaceFile)
     QSlider slider;
     slider.setProperty("tag", 4101);
     EXPECT_EQ(tagOf(&slider), 4101);
+}
+
+TEST(ViewTags, OfAViewThatHasGoneAreNotThoseOfOneInItsPlace)
+{
+    alignas(QSlider) std::array<std::byte, sizeof(QSlider)> place{};
+    for (const int tag : {4101, 4102}) {
+        auto *slider = new (place.data()) QSlider;
+        slider->setProperty("tag", tag);
+        EXPECT_EQ(tagOf(slider), tag);
+        slider->~QSlider();
+    }
+    auto *plain = new (place.data()) QWidget;
+    EXPECT_EQ(tagOf(plain), -1);
+    plain->~QWidget();
+}
+
+TEST(ViewTags, AreKnownOfMoreViewsThanArePurgedAtOnce)
+{
+    std::vector<std::unique_ptr<QWidget>> kept;
+    for (int tag = 0; tag < 2000; ++tag) {
+        QSlider gone;
+        setTagOf(&gone, -tag);
+        kept.push_back(std::make_unique<QWidget>());
+        setTagOf(kept.back().get(), tag);
+    }
+    for (int tag = 0; tag < 2000; ++tag) {
+        EXPECT_EQ(tagOf(kept[static_cast<std::size_t>(tag)].get()), tag);
+    }
 }
 
 TEST(ViewTags, OfALevelViewAreItsOwn)

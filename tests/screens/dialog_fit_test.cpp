@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// In every language, at the usual font and at a larger one, each text of the dialog has the room that it needs,
+// also on a small screen.
+
+#include "tests/screens/dialog_fixture.h"
+#include "tests/screens/text_fit.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace tessarin::test {
+namespace {
+
+constexpr QSize kSmallScreen(1024, 600);
+constexpr QSize kFrame(16, 40); // what the window manager adds
+
+class DialogTextsFit : public testing::TestWithParam<std::tuple<std::string, int>> {
+protected:
+    void expectFit(WholeDialog &whole)
+    {
+        int pages = 0;
+        whole.eachPage([&](const std::string &page) {
+            ++pages;
+            const TextFit fit = textFit(whole.dialog.get());
+            EXPECT_GT(fit.texts, 10) << page;
+            EXPECT_TRUE(fit.faults.isEmpty()) << page << ":\n" << fit.faults.join(u'\n').toStdString();
+        });
+        EXPECT_EQ(pages, 9);
+    }
+
+    FontScale font_{std::get<1>(GetParam())};
+    WholeDialog whole_{std::get<0>(GetParam())};
+};
+
+TEST_P(DialogTextsFit, AtItsOwnSize)
+{
+    ASSERT_TRUE(whole_.problem.isEmpty()) << whole_.problem.toStdString();
+    whole_.dialog->setAttribute(Qt::WA_DontShowOnScreen); // no screen cuts it short
+    whole_.dialog->resize(whole_.dialog->sizeHint());
+    whole_.dialog->show();
+    expectFit(whole_);
+}
+
+TEST_P(DialogTextsFit, OnASmallScreen)
+{
+    ASSERT_TRUE(whole_.problem.isEmpty()) << whole_.problem.toStdString();
+    const QSize room = kSmallScreen - kFrame;
+    whole_.dialog->setAttribute(Qt::WA_DontShowOnScreen);
+    whole_.dialog->show();
+    whole_.dialog->notice()->tell(QStringLiteral("A notice"), {{QStringLiteral("Undo"), [] {}}});
+    whole_.dialog->resize(whole_.dialog->sizeHint().boundedTo(room));
+    expectFit(whole_);
+    EXPECT_LE(whole_.dialog->width(), room.width());
+    EXPECT_LE(whole_.dialog->height(), room.height());
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsFit,
+                         testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150)),
+                         [](const testing::TestParamInfo<std::tuple<std::string, int>> &parameters) {
+                             return std::get<0>(parameters.param) + "_" +
+                                    std::to_string(std::get<1>(parameters.param));
+                         });
+
+} // namespace
+} // namespace tessarin::test
