@@ -23,6 +23,7 @@ panel)
     ;;
 start)
     "$here/start/dialog_start.sh" "$1" 3 >"$work/out" 2>&1 || fail "it ended with $?"
+    [ "$(grep -cE '^\| .* 3 queues .* \| [0-9.]+ \|' "$work/out")" = 2 ] || fail "there are not two rows"
     grep -qE '^\| .* 3 queues .* \| [0-9.]+ \| 1.2 \| (met|missed) \|$' "$work/out" || fail "there is no row"
     ;;
 esac

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The dialog's start with many queues on a print server, against a program with an empty window. Ends with a row of the
+# The dialog's start with many queues on a print server, against programs with a bare window. Ends with rows of the
 # table of ratios.
 #
 #   dialog_start.sh <folder of the build> <queues>
@@ -20,9 +20,14 @@ for ((i = 1; i <= queues; i++)); do
 done
 [ "$(lpstat -p | grep -c '^printer')" = "$queues" ]
 ln -s "$build/benchmarks/first_paint.so" "$work/first_paint.so" # a path that is preloaded may hold no blank
-measured=$("$build/benchmarks/start_times" 15 "$work/first_paint.so" \
-    "$build/benchmarks/empty_window" "$build/bin/tessarin-print" --log none)
-ratio=${measured##* }
-echo "| dialog's cold start to its window, $queues queues / an empty window | $ratio | 1.2 |" \
-    "$(awk -v ratio="$ratio" 'BEGIN { print ratio <= 1.2 ? "met" : "missed" }') |"
-echo "($measured)" >&2
+row() { # window, what it is, goal; prints the row
+    local measured ratio
+    measured=$("$build/benchmarks/start_times" 15 "$work/first_paint.so" \
+        "$build/benchmarks/$1" "$build/bin/tessarin-print" --log none)
+    ratio=${measured##* }
+    echo "| dialog's cold start to its window, $queues queues / $2 | $ratio | $3 |" \
+        "$([ -z "$3" ] || awk -v ratio="$ratio" -v goal="$3" 'BEGIN { print ratio <= goal ? "met" : "missed" }') |"
+    echo "($measured)" >&2
+}
+row empty_window "an empty window" 1.2
+row text_window "a window with a word" ""
