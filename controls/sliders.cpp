@@ -24,18 +24,23 @@ constexpr std::string_view kCMYKPrefix = "CMYK";
 
 } // namespace
 
+std::int32_t shownValue(const ScrollRow &slider, std::int32_t position)
+{
+    const float scaled = static_cast<float>(position) * slider.shownFactor;
+    std::int32_t shown = clampToInt32(static_cast<std::int64_t>(scaled));
+    if (slider.halveNegative == 1 && shown < 0) {
+        shown >>= 1; // toward minus infinity
+    }
+    return clampToInt32(std::int64_t{shown} + slider.shownBase);
+}
+
 StringRef CreateScrollValueCFString(int row, std::int32_t position)
 {
     if (row < 0 || static_cast<std::size_t>(row) >= kSliderCount) {
         return nullptr;
     }
     const ScrollRow &slider = Scrolls[static_cast<std::size_t>(row)];
-    const float scaled = static_cast<float>(position) * slider.shownFactor;
-    std::int32_t shown = clampToInt32(static_cast<std::int64_t>(scaled));
-    if (slider.halveNegative == 1 && shown < 0) {
-        shown >>= 1; // toward minus infinity
-    }
-    shown = clampToInt32(std::int64_t{shown} + slider.shownBase);
+    const std::int32_t shown = shownValue(slider, position);
     return myCFStringCreateWithFormat(nullptr, nullptr, slider.formatString, shown, shown);
 }
 

@@ -13,9 +13,14 @@
 
 namespace tessarin {
 
+struct ScrollRow;
+
 /// The property that links a slider with its value text: of the slider the text field's handle, of the text field
 /// the row number in `Scrolls`.
 inline constexpr std::uint32_t kValueTextProperty = 0x54657874; // 'Text'
+
+/// The number that a slider shows at a position.
+std::int32_t shownValue(const ScrollRow &slider, std::int32_t position);
 
 /// The value text of row `row` of `Scrolls` at a position, e.g. "95%"; null for a row that does not exist. The
 /// caller releases it.

@@ -8,6 +8,7 @@
 #include "controls/control_layer.h"
 #include "controls/event_dispatch.h"
 #include "controls/menu_items.h"
+#include "controls/setting_events.h"
 #include "controls/sliders.h"
 #include "ink/level_box.h"
 #include "platform/bundle.h"
@@ -98,9 +99,12 @@ void PasswordPDE::connectActions(QWidget *root)
     if (TessarinPDEView) {
         TessarinPDEView->installEventFilter(actions.get());
     }
+    settingEvents = new SettingEvents(actions.get(), [this] { return context; });
+    settingEvents->watchView(TessarinPDEView);
     const auto popups = root->findChildren<QComboBox *>();
     for (QComboBox *popup : popups) {
         QObject::connect(popup, &QComboBox::activated, actions.get(), [this, popup] { popupChanged(popup); });
+        settingEvents->watchControl(popup);
     }
     const auto buttons = root->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
@@ -110,6 +114,7 @@ void PasswordPDE::connectActions(QWidget *root)
         const auto callback = [this, button] { buttonCallback(button); };
         if (button->isCheckable()) { // assistive technology toggles without a click
             QObject::connect(button, &QAbstractButton::toggled, actions.get(), callback);
+            settingEvents->watchControl(button);
         } else {
             QObject::connect(button, &QAbstractButton::clicked, actions.get(), callback);
         }
@@ -119,6 +124,7 @@ void PasswordPDE::connectActions(QWidget *root)
         if (tagOf(slider) != 0) {
             QObject::connect(slider, &QAbstractSlider::valueChanged, actions.get(),
                              [this, slider] { scrollCallback(slider); });
+            settingEvents->watchControl(slider);
         }
     }
     if (auto *tabs = qobject_cast<TabView *>(PDETabView)) {
@@ -132,6 +138,7 @@ void PasswordPDE::releaseViews()
     if (auto *tabs = qobject_cast<TabView *>(PDETabView)) {
         tabs->setShouldSelect({});
     }
+    settingEvents = nullptr;
     actions.reset();
     for (const QPointer<QWidget> &root : loadedRoots) {
         if (root && root->parent() == nullptr) {

@@ -3,6 +3,7 @@
 
 #include "plugin/password_pde.h"
 
+#include "controls/setting_events.h"
 #include "ink/level_display.h"
 #include "ink/summary.h"
 #include "platform/string_object.h"
@@ -133,6 +134,9 @@ bool PasswordPDE::restoreValuesAndReturnError(QString *error)
 bool PasswordPDE::saveValuesAndReturnError(QString *error)
 {
     _PDEProlog(describe(this), "saveValuesAndReturnError:(%p)", static_cast<const void *>(error));
+    if (settingEvents != nullptr) {
+        settingEvents->finishTyping();
+    }
     if (context != nullptr) {
         MySyncTicketFromPane(context);
     }

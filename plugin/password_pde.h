@@ -22,6 +22,7 @@ class QMouseEvent;
 
 namespace tessarin {
 
+class SettingEvents;
 class TabView;
 
 /// What panelKind() answers: the identifier of the bundle, as its metadata gives it.
@@ -93,8 +94,9 @@ private:
 
     std::int32_t eventResult = 0;
     std::vector<QPointer<QWidget>>
-        loadedRoots;                  ///< top views of the loaded interfaces, the panel's while parentless
-    std::unique_ptr<QObject> actions; ///< receiver of the controls' signals; cut off with the panel
+        loadedRoots;                        ///< top views of the loaded interfaces, the panel's while parentless
+    std::unique_ptr<QObject> actions;       ///< receiver of the controls' signals; cut off with the panel
+    SettingEvents *settingEvents = nullptr; ///< of the interface loaded last; owned by the receiver
 };
 
 } // namespace tessarin

@@ -30,18 +30,18 @@ bool forbids(const ConstraintGroup &group, const PanelSettings &settings, int ro
            settings.popupSelections[static_cast<std::size_t>(group.firstRow)] == group.firstChoice + 1;
 }
 
-bool isForbidden(const PanelContext &context, int row, int choice)
+} // namespace
+
+int excludingRow(const PanelContext &context, int row, int choice)
 {
     ConstraintGroup group{};
     for (std::size_t place = 0; constraintAt(*context.ppdOptions, place, group); ++place) {
         if (forbids(group, context.settings, row, choice)) {
-            return true;
+            return group.firstRow;
         }
     }
-    return false;
+    return -1;
 }
-
-} // namespace
 
 void ConstraintCollector::takeLine(const char *line)
 {
@@ -95,7 +95,7 @@ void checkConstraintsForMenu(PanelContext *context, int row)
     int selection = context->settings.popupSelections[place];
     int lastEnabled = 0;
     for (int choice = 0; choice < count; ++choice) {
-        if (!isForbidden(*context, row, choice)) {
+        if (excludingRow(*context, row, choice) < 0) {
             flags[static_cast<std::size_t>(choice)] = 1;
             lastEnabled = choice + 1;
         } else if (selection == choice + 1) {

@@ -32,6 +32,9 @@ private:
 /// Makes the constraint list empty.
 void clearConstraints(PPDOptionTable &table);
 
+/// The row of the pop-up whose selection forbids the entry of `row` with this choice index; -1: none does.
+int excludingRow(const PanelContext &context, int row, int choice);
+
 /// Finds which entries of a pop-up the selections of earlier pop-ups forbid, moves the row's selection off them,
 /// and refills the pop-up. The moved selection is stored, not sent to the host.
 void checkConstraintsForMenu(PanelContext *context, int row);

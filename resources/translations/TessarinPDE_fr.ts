@@ -389,5 +389,197 @@ This profile should only be used for printing color charts!</source>
         <translation>Vous avez choisi un profil de support incomplet, sans données de couleur !
 Ce profil ne doit servir qu’à imprimer des chartes de couleurs !</translation>
     </message>
+    <message>
+        <source>The ink cartridges that are in the printer.</source>
+        <translation>Les cartouches d’encre qui sont dans l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What is printed on; ink amounts and colors are matched to it.</source>
+        <translation>Ce sur quoi on imprime ; les quantités d’encre et les couleurs y sont adaptées.</translation>
+    </message>
+    <message>
+        <source>How finely the ink drops are placed: a higher resolution shows more detail and takes longer.</source>
+        <translation>La finesse avec laquelle les gouttes d’encre sont posées : une résolution plus haute montre plus de détails et prend plus de temps.</translation>
+    </message>
+    <message>
+        <source>How colors that cannot be printed are replaced by colors that can.</source>
+        <translation>Comment les couleurs non imprimables sont remplacées par des couleurs imprimables.</translation>
+    </message>
+    <message>
+        <source>Whether the print is grey or in color, and which kind of color data it is made from.</source>
+        <translation>Si l’impression est en gris ou en couleur, et à partir de quel type de données de couleur.</translation>
+    </message>
+    <message>
+        <source>The pattern of ink drops from which shades are made.</source>
+        <translation>Le motif de gouttes d’encre dont sont faites les nuances.</translation>
+    </message>
+    <message>
+        <source>What the numbers of RGB data mean as colors.</source>
+        <translation>Les couleurs que désignent les nombres des données RVB.</translation>
+    </message>
+    <message>
+        <source>What the numbers of CMYK data mean as colors.</source>
+        <translation>Les couleurs que désignent les nombres des données CMJN.</translation>
+    </message>
+    <message>
+        <source>Makes the whole print lighter or darker.</source>
+        <translation>Éclaircit ou assombrit toute l’impression.</translation>
+    </message>
+    <message>
+        <source>Makes the difference between light and dark stronger or weaker.</source>
+        <translation>Renforce ou atténue la différence entre le clair et le sombre.</translation>
+    </message>
+    <message>
+        <source>The daylight in which the print will be looked at, from warm (D50) to cool (D80).</source>
+        <translation>La lumière du jour sous laquelle l’impression sera regardée, de chaude (D50) à froide (D80).</translation>
+    </message>
+    <message>
+        <source>Makes the colors more vivid or more muted.</source>
+        <translation>Rend les couleurs plus vives ou plus ternes.</translation>
+    </message>
+    <message>
+        <source>Makes the dark parts of the print lighter or darker.</source>
+        <translation>Éclaircit ou assombrit les parties sombres de l’impression.</translation>
+    </message>
+    <message>
+        <source>Gives greys a greenish or reddish tint.</source>
+        <translation>Donne aux gris une teinte verdâtre ou rougeâtre.</translation>
+    </message>
+    <message>
+        <source>Gives greys a bluish or yellowish tint.</source>
+        <translation>Donne aux gris une teinte bleuâtre ou jaunâtre.</translation>
+    </message>
+    <message>
+        <source>How much of dark and grey tones is printed with black ink in place of colored inks.</source>
+        <translation>La part des tons sombres et gris imprimée à l’encre noire au lieu d’encres de couleur.</translation>
+    </message>
+    <message>
+        <source>How much bright cyan ink is used in place of cyan; without a slider for magenta, how much of all bright inks.</source>
+        <translation>La quantité d’encre cyan clair utilisée à la place du cyan ; sans curseur pour le magenta, celle de toutes les encres claires.</translation>
+    </message>
+    <message>
+        <source>How much bright magenta ink is used in place of magenta.</source>
+        <translation>La quantité d’encre magenta clair utilisée à la place du magenta.</translation>
+    </message>
+    <message>
+        <source>The most ink of all colors together that may fall on one spot.</source>
+        <translation>La quantité maximale d’encre, toutes couleurs ensemble, qui peut tomber sur un point.</translation>
+    </message>
+    <message>
+        <source>Takes this share away from the amount of all inks.</source>
+        <translation>Retire cette part de la quantité de toutes les encres.</translation>
+    </message>
+    <message>
+        <source>The most black ink that may fall on one spot.</source>
+        <translation>La quantité maximale d’encre noire qui peut tomber sur un point.</translation>
+    </message>
+    <message>
+        <source>The most cyan ink that may fall on one spot.</source>
+        <translation>La quantité maximale d’encre cyan qui peut tomber sur un point.</translation>
+    </message>
+    <message>
+        <source>The most magenta ink that may fall on one spot.</source>
+        <translation>La quantité maximale d’encre magenta qui peut tomber sur un point.</translation>
+    </message>
+    <message>
+        <source>The most yellow ink that may fall on one spot.</source>
+        <translation>La quantité maximale d’encre jaune qui peut tomber sur un point.</translation>
+    </message>
+    <message>
+        <source>Adds black to the print or takes it away.</source>
+        <translation>Ajoute du noir à l’impression ou en retire.</translation>
+    </message>
+    <message>
+        <source>Adds cyan to the print or takes it away.</source>
+        <translation>Ajoute du cyan à l’impression ou en retire.</translation>
+    </message>
+    <message>
+        <source>Adds magenta to the print or takes it away.</source>
+        <translation>Ajoute du magenta à l’impression ou en retire.</translation>
+    </message>
+    <message>
+        <source>Adds yellow to the print or takes it away.</source>
+        <translation>Ajoute du jaune à l’impression ou en retire.</translation>
+    </message>
+    <message>
+        <source>The job&apos;s ink is counted, but nothing is printed.</source>
+        <translation>L’encre du travail est comptée, mais rien n’est imprimé.</translation>
+    </message>
+    <message>
+        <source>Lets the four sliders of this page change the colors of the print.</source>
+        <translation>Permet aux quatre curseurs de cette page de changer les couleurs de l’impression.</translation>
+    </message>
+    <message>
+        <source>Ghostscript turns PostScript data into the printed picture, in place of the system&apos;s own interpreter.</source>
+        <translation>Ghostscript fait des données PostScript l’image imprimée, à la place de l’interpréteur du système.</translation>
+    </message>
+    <message>
+        <source>How much of this ink the last job used.</source>
+        <translation>La quantité de cette encre utilisée par le dernier travail.</translation>
+    </message>
+    <message>
+        <source>How much of this ink all jobs together have used.</source>
+        <translation>La quantité de cette encre utilisée par tous les travaux ensemble.</translation>
+    </message>
+    <message>
+        <source>Reads again how much ink was used.</source>
+        <translation>Relit la quantité d’encre utilisée.</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2.</source>
+        <translation>Pas disponible avec %1 : %2.</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2, a media profile without color data.</source>
+        <translation>Pas disponible avec %1 : %2, un profil sans données de couleur.</translation>
+    </message>
+    <message>
+        <source>Available when &quot;%1&quot; is switched on.</source>
+        <translation>Disponible lorsque « %1 » est activé.</translation>
+    </message>
+    <message>
+        <source>Not available: Ghostscript is not installed.</source>
+        <translation>Pas disponible : Ghostscript n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Not available with the present settings.</source>
+        <translation>Pas disponible avec les réglages actuels.</translation>
+    </message>
+    <message>
+        <source>This printer has nothing to choose here.</source>
+        <translation>Cette imprimante n’offre aucun choix ici.</translation>
+    </message>
+    <message>
+        <source>Not offered with %1: %2 (%3): %4</source>
+        <translation>Non proposés avec %1 : %2 (%3) : %4</translation>
+    </message>
+    <message>
+        <source>Excluded by %1: %2 (%3): %4</source>
+        <translation>Exclus par %1 : %2 (%3) : %4</translation>
+    </message>
+    <message>
+        <source>Cannot be chosen (%1): %2</source>
+        <translation>Ne peuvent être choisis (%1) : %2</translation>
+    </message>
+    <message>
+        <source>A double click or Delete sets the default, %1.</source>
+        <translation>Un double clic ou Suppr remet la valeur par défaut, %1.</translation>
+    </message>
+    <message>
+        <source>Digits or F2 open a field for a value.</source>
+        <translation>Des chiffres ou F2 ouvrent un champ pour une valeur.</translation>
+    </message>
+    <message>
+        <source>Reset to default (%1)</source>
+        <translation>Rétablir la valeur par défaut (%1)</translation>
+    </message>
+    <message>
+        <source>Enter a value…</source>
+        <translation>Saisir une valeur…</translation>
+    </message>
+    <message>
+        <source>Enter a value from %1 to %2.</source>
+        <translation>Saisissez une valeur de %1 à %2.</translation>
+    </message>
 </context>
 </TS>

@@ -389,5 +389,197 @@ This profile should only be used for printing color charts!</source>
         <translation>È stato scelto un profilo del supporto incompleto, senza dati di colore!
 Questo profilo va usato solo per stampare tavole colori!</translation>
     </message>
+    <message>
+        <source>The ink cartridges that are in the printer.</source>
+        <translation>Le cartucce d’inchiostro presenti nella stampante.</translation>
+    </message>
+    <message>
+        <source>What is printed on; ink amounts and colors are matched to it.</source>
+        <translation>Su che cosa si stampa; le quantità d’inchiostro e i colori vi si adattano.</translation>
+    </message>
+    <message>
+        <source>How finely the ink drops are placed: a higher resolution shows more detail and takes longer.</source>
+        <translation>Con quanta finezza sono poste le gocce d’inchiostro: una risoluzione maggiore mostra più dettagli e richiede più tempo.</translation>
+    </message>
+    <message>
+        <source>How colors that cannot be printed are replaced by colors that can.</source>
+        <translation>Come i colori non stampabili sono sostituiti da colori stampabili.</translation>
+    </message>
+    <message>
+        <source>Whether the print is grey or in color, and which kind of color data it is made from.</source>
+        <translation>Se si stampa in grigio o a colori, e da quale tipo di dati di colore.</translation>
+    </message>
+    <message>
+        <source>The pattern of ink drops from which shades are made.</source>
+        <translation>Lo schema di gocce d’inchiostro da cui nascono le sfumature.</translation>
+    </message>
+    <message>
+        <source>What the numbers of RGB data mean as colors.</source>
+        <translation>Quali colori indicano i numeri dei dati RGB.</translation>
+    </message>
+    <message>
+        <source>What the numbers of CMYK data mean as colors.</source>
+        <translation>Quali colori indicano i numeri dei dati CMYK.</translation>
+    </message>
+    <message>
+        <source>Makes the whole print lighter or darker.</source>
+        <translation>Schiarisce o scurisce tutta la stampa.</translation>
+    </message>
+    <message>
+        <source>Makes the difference between light and dark stronger or weaker.</source>
+        <translation>Aumenta o riduce la differenza tra chiaro e scuro.</translation>
+    </message>
+    <message>
+        <source>The daylight in which the print will be looked at, from warm (D50) to cool (D80).</source>
+        <translation>La luce diurna in cui si guarderà la stampa, da calda (D50) a fredda (D80).</translation>
+    </message>
+    <message>
+        <source>Makes the colors more vivid or more muted.</source>
+        <translation>Rende i colori più vivaci o più tenui.</translation>
+    </message>
+    <message>
+        <source>Makes the dark parts of the print lighter or darker.</source>
+        <translation>Schiarisce o scurisce le parti scure della stampa.</translation>
+    </message>
+    <message>
+        <source>Gives greys a greenish or reddish tint.</source>
+        <translation>Dà ai grigi una tinta verdastra o rossastra.</translation>
+    </message>
+    <message>
+        <source>Gives greys a bluish or yellowish tint.</source>
+        <translation>Dà ai grigi una tinta bluastra o giallastra.</translation>
+    </message>
+    <message>
+        <source>How much of dark and grey tones is printed with black ink in place of colored inks.</source>
+        <translation>Quanto dei toni scuri e grigi si stampa con inchiostro nero anziché con inchiostri colorati.</translation>
+    </message>
+    <message>
+        <source>How much bright cyan ink is used in place of cyan; without a slider for magenta, how much of all bright inks.</source>
+        <translation>Quanto inchiostro ciano chiaro si usa al posto del ciano; senza cursore per il magenta, quanto di tutti gli inchiostri chiari.</translation>
+    </message>
+    <message>
+        <source>How much bright magenta ink is used in place of magenta.</source>
+        <translation>Quanto inchiostro magenta chiaro si usa al posto del magenta.</translation>
+    </message>
+    <message>
+        <source>The most ink of all colors together that may fall on one spot.</source>
+        <translation>La quantità massima d’inchiostro, di tutti i colori insieme, che può cadere su un punto.</translation>
+    </message>
+    <message>
+        <source>Takes this share away from the amount of all inks.</source>
+        <translation>Toglie questa parte dalla quantità di tutti gli inchiostri.</translation>
+    </message>
+    <message>
+        <source>The most black ink that may fall on one spot.</source>
+        <translation>La quantità massima d’inchiostro nero che può cadere su un punto.</translation>
+    </message>
+    <message>
+        <source>The most cyan ink that may fall on one spot.</source>
+        <translation>La quantità massima d’inchiostro ciano che può cadere su un punto.</translation>
+    </message>
+    <message>
+        <source>The most magenta ink that may fall on one spot.</source>
+        <translation>La quantità massima d’inchiostro magenta che può cadere su un punto.</translation>
+    </message>
+    <message>
+        <source>The most yellow ink that may fall on one spot.</source>
+        <translation>La quantità massima d’inchiostro giallo che può cadere su un punto.</translation>
+    </message>
+    <message>
+        <source>Adds black to the print or takes it away.</source>
+        <translation>Aggiunge nero alla stampa o lo toglie.</translation>
+    </message>
+    <message>
+        <source>Adds cyan to the print or takes it away.</source>
+        <translation>Aggiunge ciano alla stampa o lo toglie.</translation>
+    </message>
+    <message>
+        <source>Adds magenta to the print or takes it away.</source>
+        <translation>Aggiunge magenta alla stampa o lo toglie.</translation>
+    </message>
+    <message>
+        <source>Adds yellow to the print or takes it away.</source>
+        <translation>Aggiunge giallo alla stampa o lo toglie.</translation>
+    </message>
+    <message>
+        <source>The job&apos;s ink is counted, but nothing is printed.</source>
+        <translation>L’inchiostro del lavoro viene contato, ma non si stampa nulla.</translation>
+    </message>
+    <message>
+        <source>Lets the four sliders of this page change the colors of the print.</source>
+        <translation>Consente ai quattro cursori di questa pagina di cambiare i colori della stampa.</translation>
+    </message>
+    <message>
+        <source>Ghostscript turns PostScript data into the printed picture, in place of the system&apos;s own interpreter.</source>
+        <translation>Ghostscript trasforma i dati PostScript nell’immagine stampata, al posto dell’interprete del sistema.</translation>
+    </message>
+    <message>
+        <source>How much of this ink the last job used.</source>
+        <translation>Quanto di questo inchiostro ha usato l’ultimo lavoro.</translation>
+    </message>
+    <message>
+        <source>How much of this ink all jobs together have used.</source>
+        <translation>Quanto di questo inchiostro hanno usato tutti i lavori insieme.</translation>
+    </message>
+    <message>
+        <source>Reads again how much ink was used.</source>
+        <translation>Rilegge quanto inchiostro è stato usato.</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2.</source>
+        <translation>Non disponibile con %1: %2.</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2, a media profile without color data.</source>
+        <translation>Non disponibile con %1: %2, un profilo senza dati di colore.</translation>
+    </message>
+    <message>
+        <source>Available when &quot;%1&quot; is switched on.</source>
+        <translation>Disponibile quando «%1» è attivato.</translation>
+    </message>
+    <message>
+        <source>Not available: Ghostscript is not installed.</source>
+        <translation>Non disponibile: Ghostscript non è installato.</translation>
+    </message>
+    <message>
+        <source>Not available with the present settings.</source>
+        <translation>Non disponibile con le impostazioni attuali.</translation>
+    </message>
+    <message>
+        <source>This printer has nothing to choose here.</source>
+        <translation>Questa stampante non offre scelte qui.</translation>
+    </message>
+    <message>
+        <source>Not offered with %1: %2 (%3): %4</source>
+        <translation>Non offerti con %1: %2 (%3): %4</translation>
+    </message>
+    <message>
+        <source>Excluded by %1: %2 (%3): %4</source>
+        <translation>Esclusi da %1: %2 (%3): %4</translation>
+    </message>
+    <message>
+        <source>Cannot be chosen (%1): %2</source>
+        <translation>Non selezionabili (%1): %2</translation>
+    </message>
+    <message>
+        <source>A double click or Delete sets the default, %1.</source>
+        <translation>Un doppio clic o Canc imposta il valore predefinito, %1.</translation>
+    </message>
+    <message>
+        <source>Digits or F2 open a field for a value.</source>
+        <translation>Le cifre o F2 aprono un campo per un valore.</translation>
+    </message>
+    <message>
+        <source>Reset to default (%1)</source>
+        <translation>Ripristina valore predefinito (%1)</translation>
+    </message>
+    <message>
+        <source>Enter a value…</source>
+        <translation>Inserisci un valore…</translation>
+    </message>
+    <message>
+        <source>Enter a value from %1 to %2.</source>
+        <translation>Inserire un valore da %1 a %2.</translation>
+    </message>
 </context>
 </TS>

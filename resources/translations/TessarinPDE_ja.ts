@@ -389,5 +389,197 @@ This profile should only be used for printing color charts!</source>
         <translation>カラーデータのない不完全な用紙プロファイルが選択されています！
 このプロファイルはカラーチャートの印刷にのみ使用してください！</translation>
     </message>
+    <message>
+        <source>The ink cartridges that are in the printer.</source>
+        <translation>プリンターに入っているインクカートリッジです。</translation>
+    </message>
+    <message>
+        <source>What is printed on; ink amounts and colors are matched to it.</source>
+        <translation>印刷する用紙です。インク量と色はこれに合わせられます。</translation>
+    </message>
+    <message>
+        <source>How finely the ink drops are placed: a higher resolution shows more detail and takes longer.</source>
+        <translation>インク滴を置く細かさです。解像度が高いほど細部まで表れ、時間がかかります。</translation>
+    </message>
+    <message>
+        <source>How colors that cannot be printed are replaced by colors that can.</source>
+        <translation>印刷できない色を印刷できる色に置き換える方法です。</translation>
+    </message>
+    <message>
+        <source>Whether the print is grey or in color, and which kind of color data it is made from.</source>
+        <translation>グレーで印刷するかカラーで印刷するか、またどの種類のカラーデータから印刷するかです。</translation>
+    </message>
+    <message>
+        <source>The pattern of ink drops from which shades are made.</source>
+        <translation>濃淡を作るインク滴のパターンです。</translation>
+    </message>
+    <message>
+        <source>What the numbers of RGB data mean as colors.</source>
+        <translation>RGBデータの数値が表す色を決めます。</translation>
+    </message>
+    <message>
+        <source>What the numbers of CMYK data mean as colors.</source>
+        <translation>CMYKデータの数値が表す色を決めます。</translation>
+    </message>
+    <message>
+        <source>Makes the whole print lighter or darker.</source>
+        <translation>印刷全体を明るくまたは暗くします。</translation>
+    </message>
+    <message>
+        <source>Makes the difference between light and dark stronger or weaker.</source>
+        <translation>明るい部分と暗い部分の差を強くまたは弱くします。</translation>
+    </message>
+    <message>
+        <source>The daylight in which the print will be looked at, from warm (D50) to cool (D80).</source>
+        <translation>印刷物を見るときの昼光です。暖かい光（D50）から冷たい光（D80）まであります。</translation>
+    </message>
+    <message>
+        <source>Makes the colors more vivid or more muted.</source>
+        <translation>色を鮮やかにまたは控えめにします。</translation>
+    </message>
+    <message>
+        <source>Makes the dark parts of the print lighter or darker.</source>
+        <translation>印刷の暗い部分を明るくまたは暗くします。</translation>
+    </message>
+    <message>
+        <source>Gives greys a greenish or reddish tint.</source>
+        <translation>グレーに緑がかったまたは赤みがかった色合いを付けます。</translation>
+    </message>
+    <message>
+        <source>Gives greys a bluish or yellowish tint.</source>
+        <translation>グレーに青みがかったまたは黄色がかった色合いを付けます。</translation>
+    </message>
+    <message>
+        <source>How much of dark and grey tones is printed with black ink in place of colored inks.</source>
+        <translation>暗い色調とグレーの色調のうち、カラーインクの代わりにブラックインクで印刷する割合です。</translation>
+    </message>
+    <message>
+        <source>How much bright cyan ink is used in place of cyan; without a slider for magenta, how much of all bright inks.</source>
+        <translation>シアンの代わりにライトシアンインクを使う量です。マゼンタのスライダーがない場合は、すべてのライトインクの量です。</translation>
+    </message>
+    <message>
+        <source>How much bright magenta ink is used in place of magenta.</source>
+        <translation>マゼンタの代わりにライトマゼンタインクを使う量です。</translation>
+    </message>
+    <message>
+        <source>The most ink of all colors together that may fall on one spot.</source>
+        <translation>一か所に落とせる、全色を合わせたインク量の上限です。</translation>
+    </message>
+    <message>
+        <source>Takes this share away from the amount of all inks.</source>
+        <translation>すべてのインクの量をこの割合だけ減らします。</translation>
+    </message>
+    <message>
+        <source>The most black ink that may fall on one spot.</source>
+        <translation>一か所に落とせるブラックインク量の上限です。</translation>
+    </message>
+    <message>
+        <source>The most cyan ink that may fall on one spot.</source>
+        <translation>一か所に落とせるシアンインク量の上限です。</translation>
+    </message>
+    <message>
+        <source>The most magenta ink that may fall on one spot.</source>
+        <translation>一か所に落とせるマゼンタインク量の上限です。</translation>
+    </message>
+    <message>
+        <source>The most yellow ink that may fall on one spot.</source>
+        <translation>一か所に落とせるイエローインク量の上限です。</translation>
+    </message>
+    <message>
+        <source>Adds black to the print or takes it away.</source>
+        <translation>印刷にブラックを加えたり、印刷から減らしたりします。</translation>
+    </message>
+    <message>
+        <source>Adds cyan to the print or takes it away.</source>
+        <translation>印刷にシアンを加えたり、印刷から減らしたりします。</translation>
+    </message>
+    <message>
+        <source>Adds magenta to the print or takes it away.</source>
+        <translation>印刷にマゼンタを加えたり、印刷から減らしたりします。</translation>
+    </message>
+    <message>
+        <source>Adds yellow to the print or takes it away.</source>
+        <translation>印刷にイエローを加えたり、印刷から減らしたりします。</translation>
+    </message>
+    <message>
+        <source>The job&apos;s ink is counted, but nothing is printed.</source>
+        <translation>ジョブのインク量は数えますが、何も印刷しません。</translation>
+    </message>
+    <message>
+        <source>Lets the four sliders of this page change the colors of the print.</source>
+        <translation>このページの4つのスライダーで印刷の色を変えられるようにします。</translation>
+    </message>
+    <message>
+        <source>Ghostscript turns PostScript data into the printed picture, in place of the system&apos;s own interpreter.</source>
+        <translation>システムのインタープリターの代わりにGhostscriptがPostScriptデータを印刷画像に変換します。</translation>
+    </message>
+    <message>
+        <source>How much of this ink the last job used.</source>
+        <translation>前回のジョブで使われたこのインクの量です。</translation>
+    </message>
+    <message>
+        <source>How much of this ink all jobs together have used.</source>
+        <translation>すべてのジョブで使われたこのインクの合計量です。</translation>
+    </message>
+    <message>
+        <source>Reads again how much ink was used.</source>
+        <translation>使用されたインクの量を読み直します。</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2.</source>
+        <translation>「%1: %2」では使用できません。</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2, a media profile without color data.</source>
+        <translation>「%1: %2」はカラーデータのない用紙プロファイルなので使用できません。</translation>
+    </message>
+    <message>
+        <source>Available when &quot;%1&quot; is switched on.</source>
+        <translation>「%1」をオンにすると使用できます。</translation>
+    </message>
+    <message>
+        <source>Not available: Ghostscript is not installed.</source>
+        <translation>Ghostscriptがインストールされていないため使用できません。</translation>
+    </message>
+    <message>
+        <source>Not available with the present settings.</source>
+        <translation>現在の設定では使用できません。</translation>
+    </message>
+    <message>
+        <source>This printer has nothing to choose here.</source>
+        <translation>このプリンターではここで選べるものはありません。</translation>
+    </message>
+    <message>
+        <source>Not offered with %1: %2 (%3): %4</source>
+        <translation>「%1: %2」では選べない項目（%3）: %4</translation>
+    </message>
+    <message>
+        <source>Excluded by %1: %2 (%3): %4</source>
+        <translation>「%1: %2」により選べない項目（%3）: %4</translation>
+    </message>
+    <message>
+        <source>Cannot be chosen (%1): %2</source>
+        <translation>選べない項目（%1）: %2</translation>
+    </message>
+    <message>
+        <source>A double click or Delete sets the default, %1.</source>
+        <translation>ダブルクリックまたはDeleteキーで既定値（%1）に戻ります。</translation>
+    </message>
+    <message>
+        <source>Digits or F2 open a field for a value.</source>
+        <translation>数字またはF2キーで値の入力欄が開きます。</translation>
+    </message>
+    <message>
+        <source>Reset to default (%1)</source>
+        <translation>既定値に戻す (%1)</translation>
+    </message>
+    <message>
+        <source>Enter a value…</source>
+        <translation>値を入力…</translation>
+    </message>
+    <message>
+        <source>Enter a value from %1 to %2.</source>
+        <translation>%1から%2までの値を入力してください。</translation>
+    </message>
 </context>
 </TS>

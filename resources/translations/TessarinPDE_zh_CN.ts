@@ -389,5 +389,197 @@ This profile should only be used for printing color charts!</source>
         <translation>您选择了不含颜色数据的不完整介质配置文件！
 此配置文件仅应用于打印色卡！</translation>
     </message>
+    <message>
+        <source>The ink cartridges that are in the printer.</source>
+        <translation>打印机中安装的墨盒。</translation>
+    </message>
+    <message>
+        <source>What is printed on; ink amounts and colors are matched to it.</source>
+        <translation>要打印的介质；墨量和颜色会与之匹配。</translation>
+    </message>
+    <message>
+        <source>How finely the ink drops are placed: a higher resolution shows more detail and takes longer.</source>
+        <translation>墨滴放置的精细程度：分辨率越高，细节越多，耗时越长。</translation>
+    </message>
+    <message>
+        <source>How colors that cannot be printed are replaced by colors that can.</source>
+        <translation>如何用可打印的颜色替代无法打印的颜色。</translation>
+    </message>
+    <message>
+        <source>Whether the print is grey or in color, and which kind of color data it is made from.</source>
+        <translation>以灰度还是彩色打印，以及使用哪种颜色数据。</translation>
+    </message>
+    <message>
+        <source>The pattern of ink drops from which shades are made.</source>
+        <translation>用于形成色调层次的墨滴图案。</translation>
+    </message>
+    <message>
+        <source>What the numbers of RGB data mean as colors.</source>
+        <translation>RGB 数据中的数值所代表的颜色。</translation>
+    </message>
+    <message>
+        <source>What the numbers of CMYK data mean as colors.</source>
+        <translation>CMYK 数据中的数值所代表的颜色。</translation>
+    </message>
+    <message>
+        <source>Makes the whole print lighter or darker.</source>
+        <translation>使整个打印件变亮或变暗。</translation>
+    </message>
+    <message>
+        <source>Makes the difference between light and dark stronger or weaker.</source>
+        <translation>增强或减弱明暗之间的差别。</translation>
+    </message>
+    <message>
+        <source>The daylight in which the print will be looked at, from warm (D50) to cool (D80).</source>
+        <translation>观看打印件时的日光，从暖色 (D50) 到冷色 (D80)。</translation>
+    </message>
+    <message>
+        <source>Makes the colors more vivid or more muted.</source>
+        <translation>使颜色更鲜艳或更柔和。</translation>
+    </message>
+    <message>
+        <source>Makes the dark parts of the print lighter or darker.</source>
+        <translation>使打印件的暗部变亮或变暗。</translation>
+    </message>
+    <message>
+        <source>Gives greys a greenish or reddish tint.</source>
+        <translation>使灰色偏绿或偏红。</translation>
+    </message>
+    <message>
+        <source>Gives greys a bluish or yellowish tint.</source>
+        <translation>使灰色偏蓝或偏黄。</translation>
+    </message>
+    <message>
+        <source>How much of dark and grey tones is printed with black ink in place of colored inks.</source>
+        <translation>暗色调和灰色调中以黑色墨水代替彩色墨水打印的比例。</translation>
+    </message>
+    <message>
+        <source>How much bright cyan ink is used in place of cyan; without a slider for magenta, how much of all bright inks.</source>
+        <translation>用浅青色墨水代替青色墨水的量；没有品红色滑块时，为所有浅色墨水的量。</translation>
+    </message>
+    <message>
+        <source>How much bright magenta ink is used in place of magenta.</source>
+        <translation>用浅品红色墨水代替品红色墨水的量。</translation>
+    </message>
+    <message>
+        <source>The most ink of all colors together that may fall on one spot.</source>
+        <translation>同一位置上所有颜色墨水总量的上限。</translation>
+    </message>
+    <message>
+        <source>Takes this share away from the amount of all inks.</source>
+        <translation>将所有墨水的用量减少此比例。</translation>
+    </message>
+    <message>
+        <source>The most black ink that may fall on one spot.</source>
+        <translation>同一位置上黑色墨水的上限。</translation>
+    </message>
+    <message>
+        <source>The most cyan ink that may fall on one spot.</source>
+        <translation>同一位置上青色墨水的上限。</translation>
+    </message>
+    <message>
+        <source>The most magenta ink that may fall on one spot.</source>
+        <translation>同一位置上品红色墨水的上限。</translation>
+    </message>
+    <message>
+        <source>The most yellow ink that may fall on one spot.</source>
+        <translation>同一位置上黄色墨水的上限。</translation>
+    </message>
+    <message>
+        <source>Adds black to the print or takes it away.</source>
+        <translation>增加或减少打印件中的黑色。</translation>
+    </message>
+    <message>
+        <source>Adds cyan to the print or takes it away.</source>
+        <translation>增加或减少打印件中的青色。</translation>
+    </message>
+    <message>
+        <source>Adds magenta to the print or takes it away.</source>
+        <translation>增加或减少打印件中的品红色。</translation>
+    </message>
+    <message>
+        <source>Adds yellow to the print or takes it away.</source>
+        <translation>增加或减少打印件中的黄色。</translation>
+    </message>
+    <message>
+        <source>The job&apos;s ink is counted, but nothing is printed.</source>
+        <translation>会统计作业的墨量，但不打印任何内容。</translation>
+    </message>
+    <message>
+        <source>Lets the four sliders of this page change the colors of the print.</source>
+        <translation>允许本页的四个滑块更改打印件的颜色。</translation>
+    </message>
+    <message>
+        <source>Ghostscript turns PostScript data into the printed picture, in place of the system&apos;s own interpreter.</source>
+        <translation>由 Ghostscript 代替系统自带的解释器将 PostScript 数据转换为打印图像。</translation>
+    </message>
+    <message>
+        <source>How much of this ink the last job used.</source>
+        <translation>上一个作业使用的此墨水量。</translation>
+    </message>
+    <message>
+        <source>How much of this ink all jobs together have used.</source>
+        <translation>所有作业合计使用的此墨水量。</translation>
+    </message>
+    <message>
+        <source>Reads again how much ink was used.</source>
+        <translation>重新读取墨水使用量。</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2.</source>
+        <translation>“%1：%2”时不可用。</translation>
+    </message>
+    <message>
+        <source>Not available with %1: %2, a media profile without color data.</source>
+        <translation>“%1：%2”是没有颜色数据的介质配置文件，因此不可用。</translation>
+    </message>
+    <message>
+        <source>Available when &quot;%1&quot; is switched on.</source>
+        <translation>打开“%1”后可用。</translation>
+    </message>
+    <message>
+        <source>Not available: Ghostscript is not installed.</source>
+        <translation>不可用：未安装 Ghostscript。</translation>
+    </message>
+    <message>
+        <source>Not available with the present settings.</source>
+        <translation>当前设置下不可用。</translation>
+    </message>
+    <message>
+        <source>This printer has nothing to choose here.</source>
+        <translation>此打印机在这里没有可选项。</translation>
+    </message>
+    <message>
+        <source>Not offered with %1: %2 (%3): %4</source>
+        <translation>“%1：%2”时不提供 (%3)：%4</translation>
+    </message>
+    <message>
+        <source>Excluded by %1: %2 (%3): %4</source>
+        <translation>被“%1：%2”排除 (%3)：%4</translation>
+    </message>
+    <message>
+        <source>Cannot be chosen (%1): %2</source>
+        <translation>无法选择 (%1)：%2</translation>
+    </message>
+    <message>
+        <source>A double click or Delete sets the default, %1.</source>
+        <translation>双击或按 Delete 键恢复默认值 %1。</translation>
+    </message>
+    <message>
+        <source>Digits or F2 open a field for a value.</source>
+        <translation>按数字键或 F2 可打开数值输入框。</translation>
+    </message>
+    <message>
+        <source>Reset to default (%1)</source>
+        <translation>恢复默认值 (%1)</translation>
+    </message>
+    <message>
+        <source>Enter a value…</source>
+        <translation>输入数值…</translation>
+    </message>
+    <message>
+        <source>Enter a value from %1 to %2.</source>
+        <translation>请输入 %1 到 %2 之间的数值。</translation>
+    </message>
 </context>
 </TS>

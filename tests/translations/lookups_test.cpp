@@ -3,6 +3,7 @@
 
 // What the panel really looks up while it is used, compared with what the translations hold.
 
+#include "controls/setting_help.h"
 #include "ink/channel_table.h"
 #include "ink/level_display.h"
 #include "platform/alerts.h"
@@ -88,6 +89,7 @@ protected:
             media->setCurrentIndex(item);
             emit media->activated(item);
             summary();
+            describeAll();
         }
         PanelSettings &settings = session_.settings();
         for (std::size_t first : {0, 10}) { // a box has places for twelve of the twenty channels
@@ -101,6 +103,14 @@ protected:
         }
         summary();
         return bundle.asked;
+    }
+
+    /// What the tool tips say.
+    void describeAll()
+    {
+        for (const QWidget *view : session_.panel->contentView()->findChildren<QWidget *>()) {
+            settingDescription(*session_.context(), view);
+        }
     }
 
     QStringList summary()
@@ -129,6 +139,9 @@ TEST_P(LookedUpTexts, AreAllThatIsTranslated)
 {
     QSet<QString> asked = useEverything();
     asked.insert(QStringLiteral("Tessarin Settings")); // the panel's name comes from the factory's bundle
+    for (const char *sentence : settingSentences) {    // some need a printer of their own: their tests show them
+        asked.insert(QString::fromUtf8(sentence));
+    }
     for (const QString &key : texts_.keys()) {
         EXPECT_TRUE(asked.contains(key)) << "nothing looks up: " << qPrintable(key);
     }

@@ -4,6 +4,7 @@
 // Every text of the panel has a translation in every language that is shipped, and no translation is left over.
 
 #include "controls/control_tables.h"
+#include "controls/setting_texts.h"
 #include "ink/channel_table.h"
 #include "tests/support/panel_session.h"
 
@@ -56,6 +57,12 @@ QSet<QString> allKeys()
     }
     for (std::size_t channel = 0; channel < kInkChannelCount; ++channel) {
         keys.insert(QString::fromUtf8(inklevels[channel].name));
+    }
+    for (const SettingText &row : settingTexts) {
+        keys.insert(QString::fromUtf8(row.text));
+    }
+    for (const char *sentence : settingSentences) {
+        keys.insert(QString::fromUtf8(sentence));
     }
     for (const char *text :
          {"Tessarin Settings", "Bright Cyan\nUsage:", "Bright Inks\nUsage:", "Bright Inks Usage:", "Attention:",

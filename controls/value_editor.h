@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The field for a slider's value, over the slider's value text. It exists only while a person types.
+
+#ifndef TESSARIN_CONTROLS_VALUE_EDITOR_H
+#define TESSARIN_CONTROLS_VALUE_EDITOR_H
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QSlider>
+
+namespace tessarin {
+
+class ValueEditor : public QObject {
+public:
+    explicit ValueEditor(QObject *parent) : QObject(parent) {}
+    ~ValueEditor() override;
+
+    /// Opens the field for the slider in a row of `Scrolls`, with what was typed to open it, or with the value as
+    /// it is, selected. A field that is open already is finished first.
+    void open(QSlider *slider, QWidget *valueView, int row, const QString &typed);
+    /// Takes a value that can be taken and closes the field. Without an open one nothing happens.
+    void finish();
+    /// The open field; null: none.
+    QLineEdit *field() const { return field_; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool keyPressed(int key);
+    /// Takes the value and closes the field; false, and the field stays, for one that cannot be taken.
+    bool take();
+    void refuse();
+    void close();
+
+    QPointer<QLineEdit> field_;
+    QPointer<QSlider> slider_;
+    int row_ = 0;
+};
+
+} // namespace tessarin
+
+#endif
