@@ -158,7 +158,9 @@ void PreviewPane::ask()
 {
     asking_.stop();
     if (renderer_ && isVisible()) {
-        renderer_->request(sheet_, paperArea().size() * devicePixelRatioF());
+        // Cut, not rounded: a picture that is a fraction of a pixel too large would be scaled.
+        const QSizeF room = QSizeF(paperArea().size()) * devicePixelRatioF();
+        renderer_->request(sheet_, QSize(static_cast<int>(room.width()), static_cast<int>(room.height())));
     }
 }
 
@@ -210,15 +212,19 @@ void PreviewPane::drawPaper(QPainter &painter, const QRect &area) const
         (size.width() < area.width() - 1 && size.height() < area.height() - 1)) {
         size.scale(area.size(), Qt::KeepAspectRatio); // it was drawn for another size, and a new one is on its way
     }
-    const double ratio = devicePixelRatioF();
     const QPointF corner = QRectF(area).center() - QPointF(size.width() / 2, size.height() / 2);
-    const QRectF place(QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio, size);
+    // Between the screen's own pixels the picture would be blurred; where they are, only the window knows.
+    const QTransform toDevice = painter.deviceTransform();
+    const QPointF onDevice = toDevice.map(corner);
+    const QPointF whole(std::round(onDevice.x()), std::round(onDevice.y()));
+    const QRectF place(toDevice.inverted().map(whole), size);
     QColor shadow = palette().color(QPalette::Shadow);
     shadow.setAlpha(kShadowAlpha);
     for (int distance = 1; distance <= kShadow; ++distance) {
         painter.fillRect(place.translated(distance, distance), shadow);
     }
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // Pixel by pixel where it was drawn for this size: at fractional densities a filter would blur it a little.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, size != image_.deviceIndependentSize());
     painter.drawImage(place, image_);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)

@@ -31,6 +31,8 @@ public:
     int sheet() const { return sheet_; }
     /// The picture that is shown; null while there is none.
     const QImage &picture() const { return image_; }
+    /// The room for it, within the pane.
+    QRect paperArea() const;
     /// What is shown in place of a picture; empty while there is one.
     QString message() const;
 
@@ -50,7 +52,6 @@ protected:
 
 private:
     void turnTo(Turn turn);
-    QRect paperArea() const;
     void drawPaper(QPainter &painter, const QRect &area) const;
     void ask();
     void take(int sheet, const QImage &image);
