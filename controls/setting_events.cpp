@@ -39,6 +39,12 @@ bool isOurs(const QKeyEvent &key)
     return plain && (resets(key) || types(key) || key.key() == Qt::Key_F2);
 }
 
+/// The toolkit's own key asks only controls that hold their help ready.
+bool asksForHelp(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_F1 && key.modifiers() == Qt::ShiftModifier;
+}
+
 void reset(const PanelContext &context, QSlider *slider, int number)
 {
     if (const std::optional<int> position = defaultPosition(context, number)) {
@@ -122,6 +128,9 @@ bool SettingEvents::controlEvent(QWidget *control, QEvent *event)
         describe(control);
         return false;
     }
+    if (event->type() == QEvent::KeyPress && asksForHelp(*static_cast<QKeyEvent *>(event))) {
+        return helpFor(control);
+    }
     const std::optional<Setting> setting = settingOf(*context, control);
     if (setting && setting->kind == SettingKind::Slider) {
         auto *slider = qobject_cast<QSlider *>(control);
@@ -142,6 +151,17 @@ bool SettingEvents::controlEvent(QWidget *control, QEvent *event)
         }
     }
     return false;
+}
+
+bool SettingEvents::helpFor(const QWidget *control) const
+{
+    if (control == view_ || view_.isNull() || !view_->isAncestorOf(control)) {
+        return false;
+    }
+    const QPoint place = control->rect().center();
+    return answerHelp(
+        *context_(), view_,
+        QHelpEvent(QEvent::WhatsThis, control->mapTo(view_.data(), place), control->mapToGlobal(place)));
 }
 
 bool SettingEvents::sliderEvent(QSlider *slider, int number, QEvent *event)

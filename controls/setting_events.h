@@ -37,6 +37,7 @@ public:
 
 private:
     void accessibilityActiveChanged(bool active) override;
+    bool helpFor(const QWidget *control) const;
     bool controlEvent(QWidget *control, QEvent *event);
     bool sliderEvent(QSlider *slider, int number, QEvent *event);
     bool sliderKey(QSlider *slider, int number, const QKeyEvent &key);

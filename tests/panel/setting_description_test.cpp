@@ -170,6 +170,31 @@ TEST(SettingDescription, IsWhatsThisAsWell)
     QCoreApplication::sendEvent(panel.slider(0), &event);
     EXPECT_EQ(QApplication::topLevelWidgets().size(), windows + 1);
     QWhatsThis::hideText();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_EQ(QApplication::topLevelWidgets().size(), windows);
+    for (QWidget *control : std::initializer_list<QWidget *>{panel.slider(0), panel.popup(kPopMediaType)}) {
+        QTest::keyClick(control, Qt::Key_F1, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::topLevelWidgets().size(), windows + 1);
+        QWhatsThis::hideText();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST(SettingDescription, ComesWhereTheMouseRestsOnADisabledControl)
+{
+    ShownPanel panel(samplePPD());
+    AlertRecorder alerts;
+    choose(panel.popup(kPopMediaType), kChartMedia);
+    panel.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel.window));
+    QWidget *slider = panel.slider(0);
+    ASSERT_FALSE(slider->isEnabled());
+    QToolTip::hideText();
+    const QPoint place = slider->mapTo(&panel.window, slider->rect().center());
+    QTest::mouseMove(panel.window.windowHandle(), place - QPoint(1, 0));
+    QTest::mouseMove(panel.window.windowHandle(), place);
+    EXPECT_TRUE(
+        QTest::qWaitFor([] { return QToolTip::text().contains(QStringLiteral("Color Chart Paper")); }, 60000));
 }
 
 TEST(SettingDescription, TakesNoMarkupFromAPrinter)
