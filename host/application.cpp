@@ -11,6 +11,7 @@
 #include "host/offscreen.h"
 #include "host/plugin_loader.h"
 #include "host/printer_choices.h"
+#include "host/theme.h"
 #include "host/translation.h"
 #include "printing/delivery.h"
 #include "printing/destinations.h"
@@ -268,6 +269,7 @@ int runApplication(int argc, char **argv)
     const QString language = askedLanguage(argc, argv); // before the application takes its own arguments away
     const QApplication application(argc, argv);
     const Translation translation(language);
+    const PlaceholderKeeper placeholders;
     // By this name the desktop finds the program's entry, and so its icon in lists of windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarin.Print"));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tessarin.Print")));

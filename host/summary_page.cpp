@@ -3,6 +3,7 @@
 
 #include "host/summary_page.h"
 
+#include "host/theme.h"
 #include "printing/text.h"
 
 #include <QApplication>
@@ -101,13 +102,14 @@ void SummaryPage::makeActions()
 QIcon SummaryPage::changedMark() const
 {
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    QPixmap picture(QSize(size, size) * devicePixelRatio());
-    picture.setDevicePixelRatio(devicePixelRatio());
+    QPixmap picture(QSize(size, size) * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(QPalette::Link));
+    painter.setBrush(legibleColor(palette().color(QPalette::Link), palette().color(QPalette::Base),
+                                  palette().color(QPalette::Text), kShapeContrast));
     painter.drawEllipse(QRectF(0, 0, size, size).center(), size / 4.0, size / 4.0);
     return QIcon(picture);
 }

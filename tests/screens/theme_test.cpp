@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Texts of the panel and the dialog are legible in light, dark and high-contrast themes, measured on what is drawn.
+
+#include "host/theme.h"
+#include "ink/level_box.h"
+#include "tests/screens/dialog_fixture.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTabBar>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace tessarin::test {
+namespace {
+
+struct Theme {
+    const char *name;
+    QRgb window;
+    QRgb base;
+    QRgb text;
+    QRgb highlight;
+    QRgb highlightedText;
+};
+
+void PrintTo(const Theme &theme, std::ostream *out)
+{
+    *out << theme.name;
+}
+
+constexpr Theme kThemes[] = {
+    {"Light", 0xFFEFEFEF, 0xFFFFFFFF, 0xFF000000, 0xFF1F6FA8, 0xFFFFFFFF},
+    {"Dark", 0xFF323232, 0xFF232323, 0xFFF0F0F0, 0xFF2A82DA, 0xFF000000},
+    {"HighContrast", 0xFF000000, 0xFF000000, 0xFFFFFFFF, 0xFF1AEBFF, 0xFF000000},
+    {"HighContrastWhite", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFF37006E, 0xFFFFFFFF},
+};
+
+/// As desktops do, this names the usual colours and leaves the rest (hints, links) to Qt.
+QPalette paletteOf(const Theme &theme)
+{
+    QPalette palette;
+    const QColor text = QColor::fromRgb(theme.text);
+    const QColor window = QColor::fromRgb(theme.window);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, Qt::gray);
+    }
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::Base, QColor::fromRgb(theme.base));
+    palette.setColor(QPalette::AlternateBase, QColor::fromRgb(theme.base));
+    palette.setColor(QPalette::Highlight, QColor::fromRgb(theme.highlight));
+    palette.setColor(QPalette::HighlightedText, QColor::fromRgb(theme.highlightedText));
+    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128)); // what Qt 6.4 has where a theme says nothing
+    return palette;
+}
+
+QRgb commonestColour(const QImage &picture)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    return std::max_element(counts.begin(), counts.end(),
+                            [](const auto &one, const auto &other) { return one.second < other.second; })
+        ->first;
+}
+
+/// The contrast of a text with its ground, as drawn: of the pixel that differs most from the commonest one.
+double drawnContrast(const QImage &picture)
+{
+    const QColor ground = QColor::fromRgb(commonestColour(picture));
+    std::set<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            colours.insert(picture.pixel(x, y));
+        }
+    }
+    double best = 1;
+    for (const QRgb colour : colours) {
+        best = std::max(best, host::contrast(QColor::fromRgb(colour), ground));
+    }
+    return best;
+}
+
+/// The places of a view's texts, in its own coordinates, by what they say.
+std::vector<std::pair<QString, QRect>> textPlaces(QWidget *view)
+{
+    const QRect inner = view->rect().adjusted(3, 3, -3, -3); // without a frame, which is no text
+    if (const auto *label = qobject_cast<QLabel *>(view)) {
+        return {{label->text(), view->rect()}};
+    }
+    if (const auto *button = qobject_cast<QAbstractButton *>(view)) {
+        // A check box has its mark at the left, a push button its frame.
+        const int left = button->isCheckable() ? 22 : 4;
+        return {{button->text(), inner.adjusted(left, 0, -4, 0)}};
+    }
+    if (const auto *popup = qobject_cast<QComboBox *>(view)) {
+        return {{popup->currentText(), inner.adjusted(4, 0, -22, 0)}};
+    }
+    if (const auto *line = qobject_cast<QLineEdit *>(view)) {
+        return {{line->text() + line->placeholderText(), inner}};
+    }
+    std::vector<std::pair<QString, QRect>> places;
+    if (const auto *bar = qobject_cast<QTabBar *>(view)) {
+        for (int tab = 0; tab < bar->count(); ++tab) {
+            places.emplace_back(bar->tabText(tab), bar->tabRect(tab).adjusted(6, 6, -6, -4));
+        }
+    }
+    if (const auto *list = qobject_cast<QAbstractItemView *>(view)) {
+        const QAbstractItemModel *model = list->model();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const QModelIndex index = model->index(row, 0);
+            const QRect place = list->visualRect(index).intersected(list->viewport()->rect());
+            places.emplace_back(index.data().toString(), place.translated(list->viewport()->pos()));
+        }
+    }
+    return places;
+}
+
+class Themes : public testing::TestWithParam<Theme> {
+protected:
+    Themes() { QApplication::setPalette(paletteOf(GetParam())); }
+    ~Themes() override { QApplication::setPalette(QPalette()); }
+
+    /// Looks at all enabled texts that are shown. Answers how many there were.
+    int expectLegible(QWidget &window)
+    {
+        const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int texts = 0;
+        for (QWidget *view : window.findChildren<QWidget *>()) {
+            const bool isPart = view->visibleRegion().isEmpty() || qobject_cast<QHeaderView *>(view) != nullptr;
+            if (!view->isEnabled() || !view->isVisibleTo(&window) || view->window() != &window || isPart) {
+                continue;
+            }
+            for (const auto &[text, place] : textPlaces(view)) {
+                const QRect seen = place.intersected(view->visibleRegion().boundingRect())
+                                       .translated(view->mapTo(&window, QPoint()));
+                if (text.trimmed().isEmpty() || seen.width() < 8 || seen.height() < 8) {
+                    continue;
+                }
+                ++texts;
+                EXPECT_GE(drawnContrast(picture.copy(seen)), host::kTextContrast)
+                    << view->metaObject()->className() << ' ' << view->objectName().toStdString() << ": "
+                    << text.toStdString();
+            }
+        }
+        return texts;
+    }
+};
+
+TEST_P(Themes, LeaveAllTextsLegible)
+{
+    const host::PlaceholderKeeper placeholders;
+    WholeDialog whole("en");
+    ASSERT_TRUE(whole.problem.isEmpty()) << whole.problem.toStdString();
+    whole.dialog->setAttribute(Qt::WA_DontShowOnScreen); // no screen cuts it short
+    whole.dialog->resize(whole.dialog->sizeHint());
+    whole.dialog->show();
+    whole.dialog->notice()->tell(QStringLiteral("A notice that says something"), {{QStringLiteral("Undo"), [] {}}});
+    whole.eachPage([&](const std::string &page) {
+        SCOPED_TRACE(page);
+        EXPECT_GT(expectLegible(*whole.dialog), 10);
+    });
+}
+
+TEST_P(Themes, MeetHintsThatAreLegible)
+{
+    const host::PlaceholderKeeper placeholders;
+    const QPalette palette = QApplication::palette();
+    const QColor base = palette.color(QPalette::Base);
+    const QColor hint = palette.color(QPalette::PlaceholderText);
+    EXPECT_EQ(hint.alpha(), 255);
+    EXPECT_GE(host::contrast(hint, base), host::kTextContrast);
+    EXPECT_LT(host::contrast(hint, base), host::contrast(palette.color(QPalette::Text), base))
+        << "as pale as a text";
+}
+
+TEST_P(Themes, ShowInkBarsAndTheirInksAsTheyAre)
+{
+    QWidget box;
+    box.resize(200, 60);
+    LevelBox bar(&box);
+    bar.setGeometry(20, 20, 110, 14);
+    bar.setLevel(40);
+    bar.setColor(QColor(255, 230, 0));
+    box.show();
+    const QImage picture = box.grab().toImage();
+    EXPECT_EQ(picture.pixelColor(100, 27), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(40, 27), QColor(255, 230, 0));
+    // The edge shows where the bar ends, on the window's ground as on the bar's own.
+    const QColor ground = picture.pixelColor(10, 10);
+    const QColor top = picture.pixelColor(100, 20);
+    EXPECT_NE(top, QColor(Qt::white));
+    EXPECT_NE(top, ground);
+    EXPECT_GT(host::contrast(top, ground), 1.5);
+    EXPECT_GT(host::contrast(top, Qt::white), 1.5);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Themes, testing::ValuesIn(kThemes),
+                         [](const testing::TestParamInfo<Theme> &theme) { return theme.param.name; });
+
+TEST(PlaceholderKeeper, FollowsTheTheme)
+{
+    const host::PlaceholderKeeper placeholders;
+    QApplication::setPalette(paletteOf(kThemes[0]));
+    const QColor light = QApplication::palette().color(QPalette::PlaceholderText);
+    QApplication::setPalette(paletteOf(kThemes[1]));
+    const QColor dark = QApplication::palette().color(QPalette::PlaceholderText);
+    EXPECT_LT(light.lightness(), 128);
+    EXPECT_GT(dark.lightness(), 128);
+    QApplication::setPalette(QPalette());
+}
+
+TEST(Contrast, IsThatOfTheGuidelines)
+{
+    EXPECT_NEAR(host::contrast(Qt::black, Qt::white), 21, 0.01);
+    EXPECT_NEAR(host::contrast(QColor(0x76, 0x76, 0x76), Qt::white), 4.54, 0.01);
+    EXPECT_NEAR(host::contrast(Qt::red, Qt::red), 1, 0.01);
+    EXPECT_EQ(host::legibleColor(QColor(0, 0, 0, 128), Qt::white, Qt::black, 4.5), QColor(Qt::black));
+    EXPECT_EQ(host::legibleColor(Qt::blue, Qt::white, Qt::black, 4.5), QColor(Qt::blue));
+}
+
+} // namespace
+} // namespace tessarin::test
