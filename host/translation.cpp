@@ -4,11 +4,13 @@
 #include "host/translation.h"
 
 #include "host/installation.h"
+#include "printing/text_languages.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <string_view>
 
 namespace tessarin::host {
@@ -33,26 +35,31 @@ QString askedLanguage(int argc, const char *const *argv)
 
 Translation::Translation(const QString &language)
 {
+    setTextLanguage(language);
     const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);
-    const QString name = QStringLiteral("tessarin-print");
-    const QString separator = QStringLiteral("_");
     const auto install = [](QTranslator &translator, bool isLoaded) {
         if (isLoaded) {
             QCoreApplication::installTranslator(&translator);
         }
     };
+    const auto load = [](TranslationFile &file, const QString &code) {
+        return file.load(translationsDirectory() + QStringLiteral("/tessarin-print_%1.qm").arg(code));
+    };
     // The one that is installed last is asked first.
-    install(english_, english_.load(name + QStringLiteral("_en"), translationsDirectory()));
-    install(toolkit_, toolkit_.load(locale, QStringLiteral("qtbase"), separator,
+    install(english_.translator(), load(english_, QStringLiteral("en")));
+    install(toolkit_, toolkit_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
                                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
-    install(program_, program_.load(locale, name, separator, translationsDirectory()));
+    const QStringList codes = translationCodes(locale);
+    install(program_.translator(),
+            std::any_of(codes.begin(), codes.end(), [&](const QString &code) { return load(program_, code); }));
 }
 
 Translation::~Translation()
 {
-    for (QTranslator *translator : {&program_, &toolkit_, &english_}) {
+    for (QTranslator *translator : {&program_.translator(), &toolkit_, &english_.translator()}) {
         QCoreApplication::removeTranslator(translator);
     }
+    setTextLanguage(QString());
 }
 
 } // namespace tessarin::host

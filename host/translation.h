@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The language that the program speaks: its own texts and the toolkit's.
+// The language that the program speaks: its own texts, the toolkit's and the printer's.
 
 #ifndef TESSARIN_HOST_TRANSLATION_H
 #define TESSARIN_HOST_TRANSLATION_H
+
+#include "platform/translation_file.h"
 
 #include <QString>
 #include <QTranslator>
@@ -19,16 +21,16 @@ class Translation {
 public:
     /// `language`: a code such as "de" or "pt_BR"; empty for the first of the environment's languages that there
     /// is. English where there is no translation. To be made when there is an application, before any text is
-    /// shown.
+    /// shown and any printer opened.
     explicit Translation(const QString &language);
     ~Translation();
     Translation(const Translation &) = delete;
     Translation &operator=(const Translation &) = delete;
 
 private:
-    QTranslator english_{}; ///< its plural forms
+    TranslationFile english_{}; ///< its plural forms
     QTranslator toolkit_{};
-    QTranslator program_{};
+    TranslationFile program_{};
 };
 
 } // namespace tessarin::host

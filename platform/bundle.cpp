@@ -3,7 +3,6 @@
 
 #include "platform/bundle.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,23 +10,10 @@
 #include <QJsonObject>
 #include <QLocale>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarin {
-
-namespace {
-
-/// Whether a translation is not what was installed. The translator follows the lengths in it wherever they lead, so
-/// that one wrong byte could end the host. One that somebody adds comes without a sum.
-bool isDamaged(const QByteArray &content, const QString &sumPath)
-{
-    constexpr qint64 kDigits = 64;
-    QFile sum(sumPath);
-    return QFileInfo(sumPath).isFile() && sum.open(QIODevice::ReadOnly) &&
-           sum.read(kDigits) != QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
-}
-
-} // namespace
 
 DirectoryBundle::DirectoryBundle(QString directory, QString identifier)
     : directory_(std::move(directory)), identifier_(std::move(identifier))
@@ -60,24 +46,12 @@ std::shared_ptr<DirectoryBundle> DirectoryBundle::open(const QString &directory,
 
 bool DirectoryBundle::loadTranslation(const QString &code)
 {
-    const QString path = QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code));
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray content = file.readAll();
-    if (isDamaged(content, path + QStringLiteral(".sha256"))) {
-        return false;
-    }
-    translation_ = content;
-    return translator_.load(reinterpret_cast<const uchar *>(translation_.constData()),
-                            static_cast<int>(translation_.size()));
+    return translation_.load(QDir(directory_).filePath(QStringLiteral("translations/TessarinPDE_%1.qm").arg(code)));
 }
 
 bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)
 {
-    const QString english = QStringLiteral("en");
-    if (language == english) {
+    if (language == QLatin1String("en")) {
         return true;
     }
     if (!language.isEmpty()) {
@@ -88,21 +62,14 @@ bool DirectoryBundle::loadLanguage(const QString &language, QString *reason)
         *reason = QStringLiteral("%1: no translation into \"%2\"").arg(directory_, language);
         return false;
     }
-    const QStringList wanted = QLocale().uiLanguages();
-    for (const QString &tag : wanted) {
-        // A tag may leave out its country ("pt" of Brazil): the translation for the country comes first.
-        const QString full = QLocale(tag).name();
-        const QString plain = full.section(QLatin1Char('_'), 0, 0);
-        if (plain == english || plain == QLatin1String("C") || loadTranslation(full) || loadTranslation(plain)) {
-            break;
-        }
-    }
+    const QStringList codes = translationCodes(QLocale());
+    std::any_of(codes.begin(), codes.end(), [this](const QString &code) { return loadTranslation(code); });
     return true;
 }
 
 QString DirectoryBundle::localizedString(const QString &key) const
 {
-    const QString translated = translator_.translate(kTranslationContext, key.toUtf8().constData());
+    const QString translated = translation_.translator().translate(kTranslationContext, key.toUtf8().constData());
     return translated.isEmpty() ? key : translated;
 }
 

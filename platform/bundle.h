@@ -10,10 +10,9 @@
 #define TESSARIN_PLATFORM_BUNDLE_H
 
 #include "pde/print_dialog_extension.h"
+#include "platform/translation_file.h"
 
-#include <QByteArray>
 #include <QString>
-#include <QTranslator>
 
 #include <memory>
 
@@ -45,8 +44,7 @@ private:
 
     QString directory_;
     QString identifier_;
-    QByteArray translation_; ///< which the translator reads where it lies
-    QTranslator translator_; ///< asked by key only, never installed: a host's own translations do not interfere
+    TranslationFile translation_; ///< asked by key only, never installed: a host's own do not interfere
 };
 
 } // namespace tessarin

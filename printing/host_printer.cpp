@@ -13,7 +13,7 @@ using PrinterOutcome = Outcome<std::shared_ptr<HostPrinter>>;
 
 HostPrinter::HostPrinter(Parts parts, PpdHandle ppd)
     : kind_(parts.kind), path_(std::move(parts.path)), identifier_(std::move(parts.identifier)),
-      queue_(std::move(parts.queue)), ppd_(std::move(ppd))
+      queue_(std::move(parts.queue)), ppd_(std::move(ppd)), translations_(*ppd_, path_)
 {}
 
 PrinterOutcome HostPrinter::open(Parts parts, const CupsOptions &numbers)

@@ -10,6 +10,7 @@
 #include "printing/cups_queue.h"
 #include "printing/outcome.h"
 #include "printing/ppd_file.h"
+#include "printing/ppd_translations.h"
 
 #include "pde/print_dialog_extension.h"
 
@@ -56,6 +57,8 @@ public:
     const CupsOptions &savedOptions() const { return queue_.savedOptions; }
     /// The open PPD. Owned by this printer, never null.
     ppd_file_t *ppd() const { return ppd_.get(); }
+    /// The PPD's texts in the languages that were asked for when it was opened.
+    const PpdTranslations &translations() const { return translations_; }
 
 private:
     struct Parts {
@@ -73,6 +76,7 @@ private:
     QString identifier_;
     QueueDescription queue_;
     PpdHandle ppd_;
+    PpdTranslations translations_;
 };
 
 } // namespace tessarin::host

@@ -6,7 +6,6 @@
 #include "printing/text.h"
 #include "settings/page_ranges.h"
 
-#include <QLocale>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -27,52 +26,24 @@ std::optional<QString> fromUtf8(QByteArrayView bytes)
     return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
-/// The user's languages as PPDs name them: "de_AT" and then "de".
-QStringList languages()
+QString textOf(const HostPrinter &printer, const char *keyword, const char *name, const char *text)
 {
-    QStringList all;
-    for (const QString &name : QLocale().uiLanguages()) {
-        const QStringList parts = name.split(u'-');
-        for (qsizetype count = parts.size(); count > 0; --count) {
-            all << parts.first(count).join(u'_');
-        }
-    }
-    all.removeDuplicates();
-    return all;
-}
-
-/// A text's translation, which a PPD keeps under the language and the keyword: "*de.MediaType Plain/Normalpapier".
-/// libcups could put the translations into the open PPD; then the panel, which reads the same, would find other
-/// texts there than it knows. Empty when there is none.
-QString translation(ppd_file_t *ppd, const char *keyword, const char *name)
-{
-    for (const QString &language : languages()) {
-        const QByteArray key = language.toLatin1() + '.' + keyword;
-        const ppd_attr_t *found = ppdFindAttr(ppd, key.constData(), name);
-        if (found && found->text[0] != '\0') {
-            return ppdText(found->text);
-        }
-    }
-    return {};
-}
-
-QString textOf(ppd_file_t *ppd, const char *keyword, const char *name, const char *text)
-{
-    if (QString translated = translation(ppd, keyword, name); !translated.isEmpty()) {
-        return translated;
+    if (const QByteArray translated = printer.translations().text(printer.ppd(), keyword, name);
+        !translated.isEmpty()) {
+        return ppdText(translated.constData());
     }
     QString own = ppdText(text);
     return own.isEmpty() ? QString::fromUtf8(name) : own;
 }
 
-QString textOf(ppd_file_t *ppd, const ppd_option_t &option)
+QString textOf(const HostPrinter &printer, const ppd_option_t &option)
 {
-    return textOf(ppd, "Translation", option.keyword, option.text);
+    return textOf(printer, "Translation", option.keyword, option.text);
 }
 
-QString textOf(ppd_file_t *ppd, const ppd_option_t &option, const ppd_choice_t &choice)
+QString textOf(const HostPrinter &printer, const ppd_option_t &option, const ppd_choice_t &choice)
 {
-    return textOf(ppd, option.keyword, choice.choice, choice.text);
+    return textOf(printer, option.keyword, choice.choice, choice.text);
 }
 
 /// True for a choice that a page can offer as it is.
@@ -82,14 +53,14 @@ bool isComplete(ppd_file_t *ppd, const ppd_option_t &option, const ppd_choice_t 
     return !needsValue && qstrcmp(choice.choice, kSeparatorText) != 0;
 }
 
-CatalogueOption catalogued(ppd_file_t *ppd, const ppd_option_t &option)
+CatalogueOption catalogued(const HostPrinter &printer, const ppd_option_t &option)
 {
-    CatalogueOption result{.key = QString::fromUtf8(option.keyword), .text = textOf(ppd, option)};
+    CatalogueOption result{.key = QString::fromUtf8(option.keyword), .text = textOf(printer, option)};
     for (int i = 0; i < option.num_choices; ++i) {
         const ppd_choice_t &choice = option.choices[i];
-        if (isComplete(ppd, option, choice)) {
+        if (isComplete(printer.ppd(), option, choice)) {
             result.choices << CatalogueChoice{.choice = QString::fromUtf8(choice.choice),
-                                              .text = textOf(ppd, option, choice)};
+                                              .text = textOf(printer, option, choice)};
         }
     }
     const auto has = [&](const char *name) {
@@ -160,26 +131,26 @@ QString ppdText(const char *text)
 CatalogueOption catalogueOption(const HostPrinter &printer, const QString &key)
 {
     const ppd_option_t *option = ppdFindOption(printer.ppd(), key.toUtf8().constData());
-    return option ? catalogued(printer.ppd(), *option) : CatalogueOption{.key = key, .text = key};
+    return option ? catalogued(printer, *option) : CatalogueOption{.key = key, .text = key};
 }
 
 QList<CatalogueGroup> optionCatalogue(const JobSettings &settings, const QStringList &hidden)
 {
     QList<CatalogueGroup> groups;
-    ppd_file_t *ppd = settings.printer().ppd();
+    const HostPrinter &printer = settings.printer();
     const ppd_group_t *last = nullptr;
-    for (const PpdOptionPlace &place : optionsOf(*ppd)) {
+    for (const PpdOptionPlace &place : optionsOf(*printer.ppd())) {
         const QString key = QString::fromUtf8(place.option->keyword);
         if (!settings.optionKeys().contains(key) || hidden.contains(key, Qt::CaseInsensitive)) {
             continue;
         }
-        CatalogueOption option = catalogued(ppd, *place.option);
+        CatalogueOption option = catalogued(printer, *place.option);
         if (option.choices.size() < 2) {
             continue;
         }
         if (place.group != last) {
             last = place.group;
-            groups << CatalogueGroup{.text = textOf(ppd, "Translation", last->name, last->text)};
+            groups << CatalogueGroup{.text = textOf(printer, "Translation", last->name, last->text)};
         }
         groups.last().options << std::move(option);
     }
@@ -189,7 +160,7 @@ QList<CatalogueGroup> optionCatalogue(const JobSettings &settings, const QString
 QString optionText(const HostPrinter &printer, const QString &key)
 {
     const ppd_option_t *option = ppdFindOption(printer.ppd(), key.toUtf8().constData());
-    return option ? textOf(printer.ppd(), *option) : key;
+    return option ? textOf(printer, *option) : key;
 }
 
 QString choiceText(const HostPrinter &printer, const QString &key, const QString &choice)
@@ -199,7 +170,7 @@ QString choiceText(const HostPrinter &printer, const QString &key, const QString
     if (!found) {
         return choice;
     }
-    QString text = textOf(printer.ppd(), *option, *found);
+    QString text = textOf(printer, *option, *found);
     const QLatin1String custom("Custom.");
     if (qstrcmp(found->choice, kCustom) == 0 && choice.startsWith(custom, Qt::CaseInsensitive)) {
         //: %1 is "Custom" in the printer's words, %2 the custom value, such as a paper size

@@ -37,8 +37,8 @@ struct CatalogueGroup {
     QList<CatalogueOption> options{};
 };
 
-// The texts come in the language of the default QLocale where the PPD has them in it, else as they stand in the
-// PPD. All are plain text, whatever markup they seem to have.
+// The texts come in the language that was asked for (printing/text_languages.h) where the PPD has them in it, else
+// as they stand in the PPD. All are plain text, whatever markup they seem to have.
 
 /// The options that belong into a job (JobSettings::optionKeys()), in the PPD's order and groups, without those
 /// named in `hidden` and those with fewer than two choices. Groups without options are left out.
