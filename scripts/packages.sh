@@ -13,7 +13,7 @@ build_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool xauth fonts-droid-fallback
-    cups cups-client
+    cups cups-client man-db
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
 package_packages=(debhelper debootstrap dpkg-dev fakeroot lintian)
