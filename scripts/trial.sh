@@ -1,0 +1,120 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# What try_packages.sh runs within the fresh system, in the folder of the packages, with older ones in "older": the
+# older ones are installed and upgraded, the programs used, a host compiled; then all is removed, and nothing is left.
+set -euo pipefail
+names=(tessarin-print tessarin-panel tessarin-panel-dev)
+sample=/usr/share/tessarin/tessarin-sample.ppd
+export HOME=/tmp/home XDG_RUNTIME_DIR=/tmp/home
+mkdir -p -m 700 "$HOME"
+fail() {
+    echo "packages: $*" >&2
+    exit 1
+}
+
+# Everything but what dpkg, apt and caches keep, and what this trial itself writes.
+files() {
+    find / -xdev \( -path /proc -o -path "$PWD" -o -path /var/lib/dpkg -o -path /var/lib/apt -o -path /var/cache -o \
+        -path /var/log -o -path /tmp \) -prune -o -print | sort
+}
+
+newer_than() { # list of files
+    files | comm -13 "$1" -
+}
+
+prepare() {
+    apt-get -qq update
+    # What the packages depend on comes first, so that only their own files are counted.
+    apt-get -qq install -y --no-install-recommends ./tessarin-print_*.deb ./tessarin-panel_*.deb \
+        ./tessarin-panel-dev_*.deb g++ libcups2-dev pkg-config fonts-dejavu-core xvfb xdotool >/tmp/apt 2>&1 ||
+        fail "$(tail /tmp/apt)"
+    dpkg -P "${names[@]}" >/dev/null
+    files >/tmp/before
+}
+
+installed_versions() {
+    # shellcheck disable=SC2016 # dpkg's own placeholders
+    dpkg-query -W -f='${Version} ' "${names[@]}"
+}
+
+# apt has nobody to ask and no leave to answer by itself: a question ends it.
+upgrade() {
+    local version
+    dpkg -i older/*.deb >/dev/null || fail "the older version cannot be installed"
+    [ "$(installed_versions)" = "0.0.1 0.0.1 0.0.1 " ] || fail "the older version: $(installed_versions)"
+    [ "$(find /usr/share -path '*-older*' -type f | wc -l)" = 6 ] || fail "the older version has not its files"
+    apt-get -qq install -y --no-install-recommends ./tessarin-print_*.deb ./tessarin-panel_*.deb \
+        ./tessarin-panel-dev_*.deb </dev/null >/tmp/apt 2>&1 ||
+        fail "upgrading: $(tail /tmp/apt)"
+    version=$(dpkg-deb -f ./tessarin-print_*.deb Version)
+    [ "$(installed_versions)" = "$version $version $version " ] || fail "not upgraded: $(installed_versions)"
+    [ -z "$(find / -xdev -path "$PWD" -prune -o -name '*-older*' -print)" ] || fail "files of the older version are left"
+    [ -z "$(dpkg --audit; dpkg --verify "${names[@]}")" ] || fail "damaged: $(dpkg --verify "${names[@]}")"
+    # shellcheck disable=SC2016
+    [ -z "$(dpkg-query -W -f='${Conffiles}' "${names[@]}")" ] || fail "there are configuration files to ask about"
+    newer_than /tmp/before >/tmp/installed
+}
+
+use_without_display() {
+    local example=/usr/share/doc/tessarin-panel-dev/examples/minimal_host.cpp bundle
+    export QT_QPA_PLATFORM=offscreen
+    tessarin-print --sample --log none --pictures /tmp/pages >/tmp/options 2>/tmp/errors || fail "$(cat /tmp/errors)"
+    [ "$(grep -c "^vorn" /tmp/options)" = 31 ] || fail "options: $(cat /tmp/options)"
+    [ "$(find /tmp/pages -name "*.png" -size +12k | wc -l)" = 6 ] || fail "pictures: $(ls -l /tmp/pages)"
+    tessarin-print --sample --log none --language de --summary | grep -q "^Medientyp: " || fail "no German"
+    echo '{"do":"panels"}' | tessarin-replay --quiet-log --ppd $sample | grep -q '"value":1' || fail "tessarin-replay"
+    tessarin-inkdata --help >/dev/null || fail "tessarin-inkdata"
+    ! ldd /usr/lib/*/tessarin/libtessarin-pdf.so | grep "not found" || fail "a library is missing"
+    # shellcheck disable=SC2046 # several flags
+    g++ -std=c++20 -w -fPIC -I/usr/include/tessarin -o /tmp/host "$example" \
+        $(pkg-config --cflags --libs Qt6Widgets) -lcups 2>/tmp/errors || fail "a host does not compile: $(cat /tmp/errors)"
+    bundle=$(echo /usr/lib/*/tessarin/TessarinPDE.bundle)
+    [ "$(/tmp/host "$bundle" $sample --save 2>/dev/null | grep -c "^vorn")" = 31 ] || fail "the host shows no panel"
+}
+
+window() { # the dialog's, by its title in German
+    xdotool search --onlyvisible --name '^Drucken' 2>/dev/null | tail -n 1
+}
+
+use_with_display() {
+    local dialog number status=0 i
+    mkfifo /tmp/display
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>/tmp/display >/tmp/xvfb 2>&1 &
+    read -r -t 60 number </tmp/display || fail "the virtual display did not start: $(cat /tmp/xvfb)"
+    export DISPLAY=:$number QT_QPA_PLATFORM=xcb
+    tessarin-print --sample --log none --language de >/tmp/options 2>/tmp/errors &
+    dialog=$!
+    for ((i = 0; i < 600; i++)); do
+        [ -z "$(window)" ] || break
+        kill -0 $dialog 2>/dev/null || fail "the dialog ended: $(cat /tmp/errors)"
+        sleep 0.2
+    done
+    [ -n "$(window)" ] || fail "no window appears"
+    # It may take the key only once it is painted.
+    for ((i = 0; i < 60; i++)); do
+        xdotool windowfocus "$(window)" key Escape 2>/dev/null || true
+        sleep 1
+        kill -0 $dialog 2>/dev/null || break
+    done
+    wait $dialog || status=$?
+    [ $status = 1 ] || fail "the dialog, cancelled, ended with status $status: $(cat /tmp/errors)"
+}
+
+clean_up() {
+    local step
+    dpkg -i ./tessarin-print_*.deb ./tessarin-panel_*.deb >/dev/null || fail "installing over itself"
+    for step in --remove --purge; do
+        dpkg $step "${names[@]}" >/tmp/removed 2>&1 || fail "dpkg $step: $(cat /tmp/removed)"
+        newer_than /tmp/before >/tmp/left
+        [ ! -s /tmp/left ] || fail "dpkg $step leaves: $(cat /tmp/left)"
+    done
+}
+
+prepare
+upgrade
+use_without_display
+use_with_display
+clean_up
+echo "packages: $(wc -l </tmp/installed) files upgraded, used and removed"
