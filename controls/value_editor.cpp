@@ -100,7 +100,7 @@ bool ValueEditor::eventFilter(QObject *watched, QEvent *event)
     case QEvent::FocusOut: {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
         if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
-            finish();
+            takeOrRefuse();
         }
         break;
     }
@@ -115,9 +115,7 @@ bool ValueEditor::keyPressed(int key)
     if (key == Qt::Key_Escape) {
         close();
     } else if (isOurKey(key)) {
-        if (!take()) {
-            refuse();
-        }
+        takeOrRefuse();
     } else {
         return false;
     }
@@ -127,8 +125,14 @@ bool ValueEditor::keyPressed(int key)
 void ValueEditor::finish()
 {
     if (field_ && !take()) {
-        refuse();
         close();
+    }
+}
+
+void ValueEditor::takeOrRefuse()
+{
+    if (!take()) {
+        refuse();
     }
 }
 

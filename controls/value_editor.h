@@ -20,7 +20,7 @@ public:
     /// Opens the field for the slider in a row of `Scrolls`, with what was typed to open it, or with the value as
     /// it is, selected. A field that is open already is finished first.
     void open(QSlider *slider, QWidget *valueView, int row, const QString &typed);
-    /// Takes a value that can be taken and closes the field. Without an open one nothing happens.
+    /// Takes a value that can be taken and closes the field in any case. Without an open one nothing happens.
     void finish();
     /// The open field; null: none.
     QLineEdit *field() const { return field_; }
@@ -31,6 +31,8 @@ private:
     bool keyPressed(int key);
     /// Takes the value and closes the field; false, and the field stays, for one that cannot be taken.
     bool take();
+    /// A field that is left with a value that cannot be taken stays as well.
+    void takeOrRefuse();
     void refuse();
     void close();
 

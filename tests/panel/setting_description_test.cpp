@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kEveryInkMedia = 9; // PhotoPearl07 of the sample printer
 constexpr int kChartMedia = 3;    // ColorChart02
+constexpr int kPlainMedia = 2;    // PlainHeavy01
 
 std::vector<std::string> languages()
 {
@@ -123,10 +124,12 @@ TEST_P(SettingTips, ComeFromTheDisabledControlWithItsReason)
     EXPECT_EQ(tipOnPage(resolution).section(u'\n', 0, 1),
               translated({SettingKind::PopUp, kPopResolution}) + u'\n' + reason);
     auto *tabs = qobject_cast<QTabWidget *>(session.context()->controls.tabView.data());
+    closeTip();
     const QPoint place = tabs->tabBar()->tabRect(4).center();
     QHelpEvent event(QEvent::ToolTip, place, tabs->tabBar()->mapToGlobal(place));
     QCoreApplication::sendEvent(tabs->tabBar(), &event);
-    EXPECT_TRUE(QToolTip::text().contains(reason.toHtmlEscaped())) << qPrintable(QToolTip::text());
+    EXPECT_TRUE(QToolTip::isVisible() && QToolTip::text().contains(reason.toHtmlEscaped()))
+        << qPrintable(QToolTip::text());
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, SettingTips, testing::ValuesIn(languages()),
@@ -150,7 +153,8 @@ TEST(SettingDescription, IsThereForAllControlsWhenItIsAskedForByAssistiveTechnol
     EXPECT_TRUE(panel.slider(0)->accessibleDescription().contains(QStringLiteral("Color Chart Paper")));
     choose(panel.popup(kPopMediaType), kEveryInkMedia);
     EXPECT_EQ(panel.slider(0)->accessibleDescription(), QString::fromUtf8(settingText({SettingKind::Slider, 0})));
-    choose(panel.popup(kPopMediaType), kEveryInkMedia);
+    choose(panel.popup(kPopMediaType), kPlainMedia);
+    EXPECT_TRUE(panel.popup(kPopIntent)->accessibleDescription().contains(QStringLiteral("Not offered with")));
     panel.checkBox(kNoPrintID)->setAccessibleDescription({});
     panel.window.hide();
     panel.window.show();
@@ -189,7 +193,7 @@ TEST(SettingDescription, ComesWhereTheMouseRestsOnADisabledControl)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&panel.window));
     QWidget *slider = panel.slider(0);
     ASSERT_FALSE(slider->isEnabled());
-    QToolTip::hideText();
+    closeTip();
     const QPoint place = slider->mapTo(&panel.window, slider->rect().center());
     QTest::mouseMove(panel.window.windowHandle(), place - QPoint(1, 0));
     QTest::mouseMove(panel.window.windowHandle(), place);

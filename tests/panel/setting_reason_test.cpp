@@ -173,6 +173,9 @@ TEST(MissingChoices, NameThePopUpWhoseSelectionExcludesThem)
         EXPECT_EQ(named, excluded.size()) << qPrintable(text);
     }
     EXPECT_GT(seen, 0U);
+    EXPECT_EQ(missingChoices(*session.context(), kPopMediaType),
+              QStringLiteral("Excluded by Cartridge: Photo Black (4): Fine Art Rag 308 g, Fine Art Textured 285 g, "
+                             "Fine Art Watercolor 240 g, Fine Art Mulberry 70 g"));
 }
 
 TEST(MissingChoices, NameThoseThatCannotBeChosenAtAll)

@@ -48,10 +48,20 @@ inline int pageOf(const PanelSession &session, const QWidget *view)
     return -1;
 }
 
+/// Closes the tool tip at once; the toolkit alone would let it stand for a while.
+inline void closeTip()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->inherits("QTipLabel")) {
+            window->close();
+        }
+    }
+}
+
 /// The text of the tool tip that comes where the mouse rests over a view; empty when none comes.
 inline QString tipOver(QWidget *view)
 {
-    QToolTip::hideText();
+    closeTip();
     const QPoint place = view->rect().center();
     QHelpEvent event(QEvent::ToolTip, place, view->mapToGlobal(place));
     QCoreApplication::sendEvent(view, &event);

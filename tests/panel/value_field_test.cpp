@@ -110,7 +110,7 @@ TEST_F(ValueField, RefusesAValueInSightAndKeepsWhatWasTyped)
         const QColor ground = openField(panel)->palette().color(QPalette::Base);
         press(Qt::Key_Delete);
         type(text);
-        QToolTip::hideText();
+        closeTip();
         press(Qt::Key_Return);
         ASSERT_NE(openField(panel), nullptr) << text;
         EXPECT_EQ(openField(panel)->text(), QString::fromUtf8(text));
@@ -134,11 +134,25 @@ TEST_F(ValueField, TakesTheValueWhenItIsLeft)
     EXPECT_EQ(openField(panel), nullptr);
     EXPECT_EQ(panel.slider(0)->value(), -6);
     EXPECT_TRUE(panel.slider(1)->hasFocus());
-    QTest::keyClick(panel.slider(1), Qt::Key_7);
-    panel.slider(0)->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(openField(panel), nullptr);
-    EXPECT_EQ(panel.slider(1)->value(), 0) << "7% is out of range";
-    EXPECT_EQ(QToolTip::text(), QStringLiteral("Enter a value from 50% to 200%."));
+}
+
+TEST_F(ValueField, StaysWhenItIsLeftWithAValueThatIsRefused)
+{
+    QTest::keyClick(panel.slider(0), Qt::Key_7);
+    const QColor ground = openField(panel)->palette().color(QPalette::Base);
+    panel.slider(1)->setFocus(Qt::TabFocusReason);
+    ASSERT_NE(openField(panel), nullptr);
+    EXPECT_EQ(openField(panel)->text(), QStringLiteral("7"));
+    EXPECT_NE(openField(panel)->palette().color(QPalette::Base), ground);
+    EXPECT_EQ(panel.slider(0)->value(), 0);
+    openField(panel)->setFocus();
+    openField(panel)->end(false);
+    type("0");
+    press(Qt::Key_Return);
+    EXPECT_EQ(panel.slider(0)->value(), -6);
+    QTest::keyClick(panel.slider(0), Qt::Key_7);
+    EXPECT_EQ(handedOver(panel).at("vornBrightness"), "-30");
+    EXPECT_EQ(openField(panel), nullptr) << "what is refused does not stand beside settings that are saved";
 }
 
 TEST_F(ValueField, TakesTheValueWhenTheSettingsAreSaved)

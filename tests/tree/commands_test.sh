@@ -25,7 +25,8 @@ expect 2 "./tessarin run [options]"
 expect 2 "unknown command fly" fly
 expect 2 "unknown option --fly" --fly
 expect 2 "build takes no arguments" build now
-expect 2 "package takes no arguments but --try" package now
+expect 2 "package takes no arguments but --try and --twice" package now
+expect 2 "package takes no arguments but" package --twice now
 expect 2 "setup takes no arguments" --no-setup setup now
 # Without the means to install anything, the missing packages are named.
 bin=$(mktemp -d)
