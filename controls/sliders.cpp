@@ -6,6 +6,7 @@
 #include "controls/control_layer.h"
 #include "controls/control_tables.h"
 #include "pde/print_dialog_extension.h"
+#include "platform/accessible_views.h"
 #include "platform/numbers.h"
 #include "platform/view_tags.h"
 #include "plugin/log.h"
@@ -69,6 +70,7 @@ void SetScrollValue(QWidget *slider)
     _VERBOSE("mark2\n");
     Draw1Control(textField);
     _VERBOSE("mark3\n");
+    announceText(slider);
 }
 
 void enableColControls(PanelContext *context, int on)

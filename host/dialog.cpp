@@ -3,6 +3,7 @@
 
 #include "host/dialog.h"
 
+#include "host/focus_order.h"
 #include "host/line_label.h"
 #include "host/memory.h"
 #include "host/printer_choices.h"
@@ -341,6 +342,7 @@ void PrintDialog::showPrinter(std::shared_ptr<OpenPrinter> printer)
     pages_->showPage(page.value_or(panelView() ? Page::Panel : Page::General));
     placeholder_->hide();
     bodyColumn_->addWidget(pages_, 1);
+    orderFocus({picker_, notice_, pages_, presets_, separate_, print_, cancel_});
     updateEnabled();
     connect(pages_, &PagesArea::chosen, this, &PrintDialog::choose);
     // Queued: a reset may bring new pages, and the one that asks for it has not come to its end.

@@ -38,6 +38,7 @@ FeaturesPage::FeaturesPage(JobSettings &settings, const QStringList &hiddenKeys,
     auto *area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
+    area->setAccessibleName(TessarinPrint::tr("Printer Features"));
     auto *content = new QWidget(area);
     auto *groups = new QVBoxLayout(content);
     groups->setContentsMargins(0, 0, 0, 0);

@@ -4,6 +4,7 @@
 #include "host/general_page.h"
 
 #include "host/custom_size_dialog.h"
+#include "host/focus_order.h"
 #include "host/input_guard.h"
 #include "printing/text.h"
 #include "settings/option_catalogue.h"
@@ -18,8 +19,8 @@ namespace {
 
 constexpr int kMostCopies = 9999;
 constexpr int kSpacing = 12;
-constexpr char kPageSize[] = "PageSize";
 constexpr int kLongest = 24; // characters that a pop-up makes room for
+constexpr char kPageSize[] = "PageSize";
 constexpr char kDuplex[] = "Duplex";
 
 } // namespace
@@ -54,7 +55,6 @@ GeneralPage::GeneralPage(JobSettings &settings, QWidget *parent)
     refresh();
 }
 
-QStringList GeneralPage::optionKeys()
 namespace {
 
 /// Gives a pop-up room for its choices, the longest ones excepted: they must not push the preview aside.
@@ -72,6 +72,7 @@ void makeRoom(QComboBox &box)
 
 } // namespace
 
+QStringList GeneralPage::optionKeys()
 {
     return {QLatin1String(kPageSize), QLatin1String(kDuplex)};
 }
@@ -89,8 +90,8 @@ void GeneralPage::addOption(QFormLayout *form, const QString &caption, const cha
         box->offerMore(TessarinPrint::tr("Custom Size…"));
         connect(box, &OptionBox::moreWanted, this, &GeneralPage::askForSize);
     }
-    options_ << box;
     makeRoom(*box);
+    options_ << box;
 }
 
 void GeneralPage::askForSize()
@@ -237,6 +238,7 @@ void GeneralPage::showProblem()
 void GeneralPage::setPreview(QWidget *preview)
 {
     row_->addWidget(preview, 1);
+    orderFocus({this, preview});
 }
 
 void GeneralPage::refresh()

@@ -36,6 +36,8 @@ void NoticeBar::tell(const QString &text, const QList<NoticeAction> &actions)
 {
     dismiss();
     text_->setText(text);
+    setAccessibleName(text);
+    QWidget *before = text_;
     for (const NoticeAction &action : actions) {
         auto *button = new QPushButton(action.text, this);
         button->setAutoDefault(false);
@@ -45,6 +47,8 @@ void NoticeBar::tell(const QString &text, const QList<NoticeAction> &actions)
         });
         row_->insertWidget(row_->count() - 1, button);
         buttons_ << button;
+        setTabOrder(before, button);
+        before = button;
     }
     show();
 }

@@ -3,6 +3,7 @@
 
 #include "ink/level_box.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -30,6 +31,10 @@ void LevelBox::setLevel(int level)
 {
     level_ = level;
     update();
+    if (QAccessible::isActive()) { // else the toolkit would look for what nobody reads
+        QAccessibleValueChangeEvent change(this, level);
+        QAccessible::updateAccessibility(&change);
+    }
 }
 
 void LevelBox::setColor(const QColor &color)

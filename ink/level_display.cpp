@@ -9,6 +9,7 @@
 #include "ink/channel_table.h"
 #include "ink/counter_reader.h"
 #include "ink/level_box.h"
+#include "platform/accessible_views.h"
 #include "platform/numbers.h"
 #include "platform/view_tags.h"
 #include "plugin/log.h"
@@ -153,6 +154,7 @@ void fillBox(PanelContext *context, const InkBox &box, const InkSums &sums, bool
         SetControlVisibility(box.values[row], level >= 0);
         showBar(box.bars[row], inklevels[place], line, level);
         showName(box.names[row], inklevels[place], line, level);
+        announceText(box.bars[row]);
         cursor += cursor < kInkChannelCount ? 1 : 0;
     }
 }

@@ -11,12 +11,14 @@
 #include "controls/setting_events.h"
 #include "controls/sliders.h"
 #include "ink/level_box.h"
+#include "platform/accessible_views.h"
 #include "platform/bundle.h"
 #include "platform/interface_loader.h"
 #include "platform/tab_view.h"
 #include "platform/view_tags.h"
 #include "plugin/log.h"
 #include "plugin/restore.h"
+#include "plugin/string_helpers.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -55,6 +57,15 @@ void setOutlet(QWidget *root, const char *name, QPointer<QWidget> &outlet)
     outlet = root->objectName() == wanted ? root : root->findChild<QWidget *>(wanted);
 }
 
+/// The value text of a slider at a position.
+QString shownText(const QWidget *slider, int position)
+{
+    const auto row = static_cast<int>(tagOf(viewForHandle(tagOf(slider))));
+    const StringRef text = CreateScrollValueCFString(row, position);
+    myCFRelease(text);
+    return toQString(text);
+}
+
 } // namespace
 
 void PasswordPDE::loadInterface()
@@ -66,6 +77,7 @@ void PasswordPDE::loadInterface()
     }
     const QHash<QString, ViewMaker> makers{
         {QStringLiteral("LevelBox"), [](QWidget *parent) -> QWidget * { return new LevelBox(parent); }}};
+    AccessibleLoading accessible(shownText);
     QString reason;
     std::unique_ptr<QWidget> root =
         loadInterfaceFile(bundle->interfacePath(QString::fromLatin1(kInterfaceName)), makers, &reason);
@@ -75,6 +87,9 @@ void PasswordPDE::loadInterface()
     }
     connectOutlets(root.get());
     connectActions(root.get());
+    if (TessarinPDEView) {
+        accessible.keep(TessarinPDEView);
+    }
     loadedRoots.emplace_back(root.release());
 }
 

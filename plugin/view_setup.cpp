@@ -35,6 +35,9 @@ QString localizedTitle(QString title)
 
 void translateView(QWidget *view)
 {
+    if (!view->accessibleName().isEmpty()) { // of what has no caption
+        view->setAccessibleName(localized(view->accessibleName()));
+    }
     if (auto *label = qobject_cast<QLabel *>(view)) {
         if (!label->text().isEmpty()) { // an empty text would take the place of a picture
             SetTextControl(label, makeString(localized(label->text())));

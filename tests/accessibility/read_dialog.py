@@ -1,0 +1,199 @@
+# SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+"""Reads the print dialog through the accessibility bus and uses it: read_dialog.py <tessarin-print> <folder>."""
+
+import os
+import subprocess
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE = 60.0  # seconds for what must come
+problems = []
+
+
+def expect(what, found, expected):
+    if found != expected:
+        problems.append(f"{what}: {found!r}, not {expected!r}")
+        print("WRONG", problems[-1], flush=True)
+
+
+def wait_for(what, ask):
+    """The first answer that is not nothing; a tree that is being changed may break off an answer."""
+    end = time.monotonic() + PATIENCE
+    while True:
+        try:
+            answer = ask()
+        except GLib.Error:
+            answer = None
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise SystemExit(f"FAILED: in vain: {what}")
+        time.sleep(0.1)
+
+
+def children(node):
+    found = [node.get_child_at_index(i) for i in range(node.get_child_count())]
+    return [child for child in found if child is not None]
+
+
+def everything(node):
+    yield node
+    for child in children(node):
+        yield from everything(child)
+
+
+def has(node, state):
+    return node.get_state_set().contains(state)
+
+
+def is_shown(node):
+    return has(node, Atspi.StateType.SHOWING)
+
+
+def labels(node):
+    """The names of the labels that a node says belong to it."""
+    return [
+        relation.get_target(i).get_name()
+        for relation in node.get_relation_set()
+        if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+        for i in range(relation.get_n_targets())
+    ]
+
+
+def find(root, role, name):
+    def look():
+        return next((n for n in everything(root) if n.get_role() == role and n.get_name() == name and is_shown(n)), None)
+
+    return wait_for(f"{role.value_nick} {name!r}", look)
+
+
+def text_of(node):
+    text = node.get_text_iface()
+    return Atspi.Text.get_text(text, 0, Atspi.Text.get_character_count(text))
+
+
+def press(node, action="Press"):
+    names = [Atspi.Action.get_action_name(node.get_action_iface(), i) for i in range(node.get_n_actions())]
+    node.do_action(names.index(action))
+
+
+def show_page(window, name):
+    pages = find(window, Atspi.Role.LIST, "Pages")
+    item = next(child for child in children(pages) if child.get_name() == name)
+    press(item, "Toggle")
+
+
+def show_tab(window, name):
+    press(find(window, Atspi.Role.PAGE_TAB, name))
+
+
+def open_dialog(program, folder):
+    ticket = os.path.join(folder, "ticket")
+    log = os.path.join(folder, "panel.log")
+    dialog = subprocess.Popen([program, "--sample", "--log", log, "--ticket", ticket])
+
+    def window():
+        desktop = Atspi.get_desktop(0)
+        for application in children(desktop):
+            for frame in children(application):
+                if application.get_process_id() == dialog.pid and frame.get_name().startswith("Print"):
+                    return frame
+        return None
+
+    return dialog, wait_for("the dialog on the bus", window), ticket, log
+
+
+def check_names(window, page):
+    """Everything the keyboard reaches has a name, and a pop-up of the toolkit its caption as label."""
+    reached = 0
+    for node in everything(window):
+        if not (has(node, Atspi.StateType.FOCUSABLE) and is_shown(node)):
+            continue
+        if any(child.get_role() == Atspi.Role.PAGE_TAB_LIST for child in children(node)):
+            continue  # hands the focus on to its tabs
+        reached += 1
+        if node.get_role() in (Atspi.Role.UNKNOWN, Atspi.Role.INVALID) or not (node.get_name() or labels(node)):
+            problems.append(f"{page}: {node.get_role_name()} {node.get_name()!r} without a name")
+            print("WRONG", problems[-1], flush=True)
+    if reached < 5:
+        problems.append(f"{page}: only {reached} controls")
+
+
+def check_slider(window):
+    brightness = find(window, Atspi.Role.SLIDER, "Brightness")
+    value = brightness.get_value_iface()
+    expect("brightness at first", (Atspi.Value.get_current_value(value), brightness.get_description()), (100.0, "100%"))
+    expect("least", Atspi.Value.get_minimum_value(value), 50.0)
+    expect("most", Atspi.Value.get_maximum_value(value), 200.0)
+    Atspi.Value.set_current_value(value, 95.0)
+    wait_for("the description follows", lambda: brightness.get_description().startswith("95%"))
+    wait_for("the value text follows", lambda: any(n.get_name() == "95%" for n in everything(window)))
+    expect("brightness", Atspi.Value.get_current_value(value), 95.0)
+    press(brightness, "Decrease")
+    wait_for("a step down", lambda: Atspi.Value.get_current_value(value) == 90.0)
+
+
+def choose(window, caption, choice):
+    popup = find(window, Atspi.Role.COMBO_BOX, caption)
+    options = children(popup.get_child_at_index(0))
+    press(next(o for o in options if o.get_name() == choice))
+    wait_for(f"{caption} shows {choice}", lambda: text_of(popup) == choice)
+    selected = [o.get_name() for o in children(popup.get_child_at_index(0)) if has(o, Atspi.StateType.SELECTED)]
+    expect(caption, selected, [choice])
+
+
+def check_ink(window):
+    boxes = [find(window, Atspi.Role.PANEL, name) for name in ("Last Job", "All Jobs")]
+    for box in boxes:
+        bars = [n for n in children(box) if n.get_role() == Atspi.Role.PROGRESS_BAR and is_shown(n)]
+        if not bars:
+            problems.append(f"{box.get_name()}: no bars")
+        for bar in bars:
+            level = f"{Atspi.Value.get_current_value(bar.get_value_iface()):g}%"
+            if not bar.get_name() or not bar.get_description().endswith(f" ({level})"):
+                problems.append(f"bar {bar.get_name()!r} at {level}: {bar.get_description()!r}")
+
+
+def main():
+    program, folder = sys.argv[1:]
+    dialog, window, ticket, log = open_dialog(program, folder)
+    try:
+        for tab in ("General", "Color", "Correction", "Ink Consumption", "Ink Usage", "Ink Limits"):
+            show_tab(window, tab)
+            find(window, Atspi.Role.PAGE_TAB, tab)
+            check_names(window, tab)
+            if tab == "Ink Consumption":
+                check_ink(window)
+        show_tab(window, "General")
+        check_slider(window)
+        choose(window, "Media Type", "Photo Satin 260 g")
+        for page in ("General", "Printer Features", "Summary", "Tessarin Settings"):
+            show_page(window, page)
+            check_names(window, page)
+        press(find(window, Atspi.Role.PUSH_BUTTON, "Print"))
+        expect("exit status", dialog.wait(PATIENCE), 0)
+    finally:
+        if dialog.poll() is None:
+            dialog.kill()
+            dialog.wait()
+    with open(ticket, encoding="utf-8") as lines:
+        written = lines.read().splitlines()
+    for line in ("vornBrightness=-10", "vornMediaType=PhotoSatin06"):
+        if line not in written:
+            problems.append(f"the ticket has no line {line}")
+    with open(log, encoding="utf-8", errors="replace") as lines:
+        if "Handle event #4501" not in lines.read():
+            problems.append("no event of the pop-up reached the panel")
+    for problem in problems:
+        print("FAILED:", problem)
+    return 1 if problems else 0
+
+
+sys.exit(main())
