@@ -14,6 +14,7 @@ test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool xauth fonts-droid-fallback
     cups cups-client man-db
+    at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
 package_packages=(debhelper debootstrap dpkg-dev fakeroot lintian)

@@ -25,4 +25,5 @@ start_display
 # The bus that a session of the tester's may have is none of this test's.
 unset AT_SPI_BUS_ADDRESS DBUS_SESSION_BUS_ADDRESS NO_AT_BRIDGE
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
-dbus-run-session -- /usr/bin/python3 "$here/read_dialog.py" "$program" "$work" || fail "the dialog does not read as it should"
+dbus-run-session -- /usr/bin/python3 -W ignore::DeprecationWarning "$here/read_dialog.py" "$program" "$work" \
+    "$here/../fixtures/ppd/ink-counters.ppd" || fail "the dialog does not read as it should"

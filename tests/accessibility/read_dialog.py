@@ -1,7 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-"""Reads the print dialog through the accessibility bus and uses it: read_dialog.py <tessarin-print> <folder>."""
+"""Reads the print dialog through the accessibility bus and uses it.
+
+read_dialog.py <tessarin-print> <folder> <PPD with ink counters>
+"""
 
 import os
 import subprocess
@@ -17,10 +20,14 @@ PATIENCE = 60.0  # seconds for what must come
 problems = []
 
 
+def wrong(what):
+    problems.append(what)
+    print("WRONG", what, flush=True)
+
+
 def expect(what, found, expected):
     if found != expected:
-        problems.append(f"{what}: {found!r}, not {expected!r}")
-        print("WRONG", problems[-1], flush=True)
+        wrong(f"{what}: {found!r}, not {expected!r}")
 
 
 def wait_for(what, ask):
@@ -94,10 +101,10 @@ def show_tab(window, name):
     press(find(window, Atspi.Role.PAGE_TAB, name))
 
 
-def open_dialog(program, folder):
+def open_dialog(program, folder, *printer):
     ticket = os.path.join(folder, "ticket")
     log = os.path.join(folder, "panel.log")
-    dialog = subprocess.Popen([program, "--sample", "--log", log, "--ticket", ticket])
+    dialog = subprocess.Popen([program, *printer, "--log", log, "--ticket", ticket])
 
     def window():
         desktop = Atspi.get_desktop(0)
@@ -120,10 +127,9 @@ def check_names(window, page):
             continue  # hands the focus on to its tabs
         reached += 1
         if node.get_role() in (Atspi.Role.UNKNOWN, Atspi.Role.INVALID) or not (node.get_name() or labels(node)):
-            problems.append(f"{page}: {node.get_role_name()} {node.get_name()!r} without a name")
-            print("WRONG", problems[-1], flush=True)
+            wrong(f"{page}: {node.get_role_name()} without a name")
     if reached < 5:
-        problems.append(f"{page}: only {reached} controls")
+        wrong(f"{page}: only {reached} controls")
 
 
 def check_slider(window):
@@ -149,30 +155,45 @@ def choose(window, caption, choice):
     expect(caption, selected, [choice])
 
 
+def check_reasons(window, tab):
+    """What cannot be used says why; a slider says it behind its value. How many such controls there are."""
+    show_tab(window, tab)
+    roles = (Atspi.Role.SLIDER, Atspi.Role.COMBO_BOX, Atspi.Role.CHECK_BOX)
+    controls = [n for n in everything(window) if n.get_role() in roles and is_shown(n)]
+    disabled = [n for n in controls if not has(n, Atspi.StateType.ENABLED)]
+    for node in disabled:
+        reason = node.get_description()
+        if node.get_role() == Atspi.Role.SLIDER:
+            reason = reason.partition("; ")[2]
+        if not reason:
+            wrong(f"{node.get_name()} does not say why it is disabled")
+    return len(disabled)
+
+
 def check_ink(window):
     boxes = [find(window, Atspi.Role.PANEL, name) for name in ("Last Job", "All Jobs")]
     for box in boxes:
         bars = [n for n in children(box) if n.get_role() == Atspi.Role.PROGRESS_BAR and is_shown(n)]
         if not bars:
-            problems.append(f"{box.get_name()}: no bars")
+            wrong(f"{box.get_name()}: no bars")
         for bar in bars:
             level = f"{Atspi.Value.get_current_value(bar.get_value_iface()):g}%"
             if not bar.get_name() or not bar.get_description().endswith(f" ({level})"):
-                problems.append(f"bar {bar.get_name()!r} at {level}: {bar.get_description()!r}")
+                wrong(f"bar {bar.get_name()!r} at {level}: {bar.get_description()!r}")
 
 
-def main():
-    program, folder = sys.argv[1:]
-    dialog, window, ticket, log = open_dialog(program, folder)
+def use_dialog(program, folder):
+    dialog, window, ticket, log = open_dialog(program, folder, "--sample")
     try:
         for tab in ("General", "Color", "Correction", "Ink Consumption", "Ink Usage", "Ink Limits"):
             show_tab(window, tab)
-            find(window, Atspi.Role.PAGE_TAB, tab)
             check_names(window, tab)
-            if tab == "Ink Consumption":
-                check_ink(window)
         show_tab(window, "General")
         check_slider(window)
+        choose(window, "Media Type", "Backlit Film 145 g")
+        if not check_reasons(window, "Ink Usage"):
+            wrong("nothing on the page Ink Usage is disabled")
+        show_tab(window, "General")
         choose(window, "Media Type", "Photo Satin 260 g")
         for page in ("General", "Printer Features", "Summary", "Tessarin Settings"):
             show_page(window, page)
@@ -180,20 +201,32 @@ def main():
         press(find(window, Atspi.Role.PUSH_BUTTON, "Print"))
         expect("exit status", dialog.wait(PATIENCE), 0)
     finally:
-        if dialog.poll() is None:
-            dialog.kill()
-            dialog.wait()
+        dialog.kill()
+        dialog.wait()
     with open(ticket, encoding="utf-8") as lines:
         written = lines.read().splitlines()
     for line in ("vornBrightness=-10", "vornMediaType=PhotoSatin06"):
         if line not in written:
-            problems.append(f"the ticket has no line {line}")
+            wrong(f"the ticket has no line {line}")
     with open(log, encoding="utf-8", errors="replace") as lines:
         if "Handle event #4501" not in lines.read():
-            problems.append("no event of the pop-up reached the panel")
-    for problem in problems:
-        print("FAILED:", problem)
-    return 1 if problems else 0
+            wrong("no event of the pop-up reached the panel")
 
 
-sys.exit(main())
+def read_ink(program, folder, ppd):
+    dialog, window, _, _ = open_dialog(program, folder, "--ppd", ppd)
+    try:
+        show_tab(window, "Ink Consumption")
+        check_ink(window)
+        press(find(window, Atspi.Role.PUSH_BUTTON, "Cancel"))
+        expect("exit status", dialog.wait(PATIENCE), 1)
+    finally:
+        dialog.kill()
+        dialog.wait()
+
+
+use_dialog(sys.argv[1], sys.argv[2])
+read_ink(sys.argv[1], sys.argv[2], sys.argv[3])
+for problem in problems:
+    print("FAILED:", problem)
+sys.exit(1 if problems else 0)
