@@ -11,6 +11,7 @@
 
 #include <QDialogButtonBox>
 #include <QFrame>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShowEvent>
@@ -168,8 +169,10 @@ QSize PrintDialog::sizeHint() const
 void PrintDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous() && !testAttribute(Qt::WA_DontShowOnScreen)) {
-        // Room for the frame that the window manager adds.
-        constexpr QSize frame(16, 40);
+        // Room for the frame that the window manager adds, and on Wayland for the desktop's panels, of which programs
+        // there are told nothing.
+        const bool isWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+        const QSize frame(16, isWayland ? 80 : 40);
         resize(sizeHint().boundedTo(screen()->availableSize() - frame));
         print_->setFocus();
     }

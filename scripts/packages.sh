@@ -12,7 +12,7 @@ build_packages=(
 )
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xdotool xauth fonts-droid-fallback
+    xvfb xdotool xauth fonts-droid-fallback weston qt6-wayland
     cups cups-client man-db
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
 )

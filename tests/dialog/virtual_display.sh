@@ -4,7 +4,7 @@
 
 # A dialog on a virtual display, to be sourced. Needs $work (a folder), $program (tessarin-print) and a function fail.
 #
-#   start_display
+#   start_display                of the size in $screen, if that is set
 #   open_dialog <arguments>...   sets $dialog (process) and $window; output in $work/out.log and $work/err.log
 #   wait_until <what> <command>...   fails when the command has not succeeded within a minute
 #   wait_for_printer <name>      until the dialog has it open, which its title says
@@ -16,7 +16,7 @@
 
 start_display() {
     mkfifo "$work/display"
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" >"$work/xvfb.log" 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${screen:-1280x1024}x24" -nolisten tcp 3>"$work/display" >"$work/xvfb.log" 2>&1 &
     local number
     read -r -t 30 number <"$work/display" || fail "the virtual display did not start"
     export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
