@@ -5,6 +5,7 @@
 
 #include "host/command_line.h"
 #include "host/dialog.h"
+#include "host/edge_style.h"
 #include "host/installation.h"
 #include "host/log_output.h"
 #include "host/no_dialog.h"
@@ -270,6 +271,9 @@ int runApplication(int argc, char **argv)
     const QApplication application(argc, argv);
     const Translation translation(language);
     const PlaceholderKeeper placeholders;
+    if (EdgeStyle::isNeeded(QApplication::palette())) {
+        QApplication::setStyle(new EdgeStyle); // the application owns it
+    }
     // By this name the desktop finds the program's entry, and so its icon in lists of windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarin.Print"));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tessarin.Print")));

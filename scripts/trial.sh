@@ -49,7 +49,7 @@ upgrade() {
         ./tessarin-panel-dev_*.deb </dev/null >/tmp/apt 2>&1 ||
         fail "upgrading: $(tail /tmp/apt)"
     version=$(dpkg-deb -f ./tessarin-print_*.deb Version)
-    [ "$(installed_versions)" = "$version $version $version " ] || fail "not upgraded: $(installed_versions)"
+    [ "$(installed_versions)" = "$version $version $version " ] || fail "not upgraded: $(installed_versions)$(tail /tmp/apt)"
     [ -z "$(find / -xdev -path "$PWD" -prune -o -name '*-older*' -print)" ] || fail "files of the older version are left"
     [ -z "$(dpkg --audit; dpkg --verify "${names[@]}")" ] || fail "damaged: $(dpkg --verify "${names[@]}")"
     # shellcheck disable=SC2016

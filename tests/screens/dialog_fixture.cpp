@@ -3,6 +3,8 @@
 
 #include "tests/screens/dialog_fixture.h"
 
+#include "printing/text.h"
+
 #include <QApplication>
 
 #include <array>
@@ -25,6 +27,10 @@ WholeDialog::WholeDialog(const std::string &language) : translation_(QString::fr
     const PrinterChoice choice = ppdChoice(QStringLiteral(TESSARIN_SAMPLE_PPD));
     const Outcome<std::shared_ptr<HostPrinter>> printer = openLocalPrinter(choice);
     problem = plugIn.reason() + printer.reason();
+    const QString features = TessarinPrint::tr("Printer Features");
+    if (problem.isEmpty() && (language == "en") != (features == QLatin1String("Printer Features"))) {
+        problem = QStringLiteral("the dialog does not speak %1").arg(QString::fromStdString(language));
+    }
     if (!problem.isEmpty()) {
         return;
     }

@@ -3,6 +3,7 @@
 
 // Texts of the panel and the dialog are legible in light, dark and high-contrast themes, measured on what is drawn.
 
+#include "host/edge_style.h"
 #include "host/theme.h"
 #include "ink/level_box.h"
 #include "tests/screens/dialog_fixture.h"
@@ -10,9 +11,14 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QStyle>
 #include <QTabBar>
 
 #include <gtest/gtest.h>
@@ -212,6 +218,56 @@ TEST_P(Themes, ShowInkBarsAndTheirInksAsTheyAre)
 
 INSTANTIATE_TEST_SUITE_P(All, Themes, testing::ValuesIn(kThemes),
                          [](const testing::TestParamInfo<Theme> &theme) { return theme.param.name; });
+
+/// How much the line that goes through a view's middle, from its left edge on, differs from the window.
+double edgeContrast(QWidget &window, const QWidget &view, int width)
+{
+    const QImage picture = window.grab().toImage();
+    const QPoint corner = view.mapTo(&window, QPoint());
+    double best = 1;
+    for (int x = 0; x < width; ++x) {
+        best = std::max(best, host::contrast(picture.pixelColor(corner + QPoint(x, view.height() / 2)),
+                                             view.palette().color(QPalette::Window)));
+    }
+    return best;
+}
+
+TEST(EdgeStyle, ShowsControlsOnBlack)
+{
+    QApplication::setPalette(paletteOf(kThemes[2]));
+    EXPECT_TRUE(host::EdgeStyle::isNeeded(QApplication::palette()));
+    const QString before = QApplication::style()->name();
+    QApplication::setStyle(new host::EdgeStyle); // the application owns it
+    {
+        QWidget window;
+        window.resize(300, 300);
+        QCheckBox check(&window);
+        QRadioButton radio(&window);
+        QComboBox popup(&window);
+        QLineEdit line(&window);
+        QSlider slider(Qt::Horizontal, &window);
+        QPushButton button(&window);
+        const std::vector<QWidget *> controls{&check, &radio, &popup, &line, &slider, &button};
+        for (std::size_t row = 0; row < controls.size(); ++row) {
+            controls[row]->setGeometry(20, 20 + static_cast<int>(row) * 40, 160, 28);
+        }
+        window.show();
+        check.setFocus();
+        for (const QWidget *control : controls) {
+            EXPECT_GE(edgeContrast(window, *control, 14), host::kShapeContrast)
+                << control->metaObject()->className();
+        }
+    }
+    QApplication::setStyle(before);
+    QApplication::setPalette(QPalette());
+}
+
+TEST(EdgeStyle, IsNotNeededInUsualThemes)
+{
+    EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[0])));
+    EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[1])));
+    EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[3])));
+}
 
 TEST(PlaceholderKeeper, FollowsTheTheme)
 {
