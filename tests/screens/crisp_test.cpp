@@ -45,19 +45,30 @@ QImage partOf(const QImage &window, const QWidget &view)
     return window.copy(QRect(first, last - QPoint(1, 1)));
 }
 
-/// How much of a picture is lost when it is drawn at the density of 1: mean difference of a pixel, 0 to 255.
-double fineness(const QImage &picture, double density)
+/// Mean difference of a pixel, 0 to 255.
+double difference(const QImage &one, const QImage &other)
 {
-    const QSize coarse = (QSizeF(picture.size()) / density).toSize();
-    const QImage blurred = picture.scaled(coarse, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                               .scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     double sum = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            sum += std::abs(qGray(picture.pixel(x, y)) - qGray(blurred.pixel(x, y)));
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            sum += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y)));
         }
     }
-    return sum / (picture.width() * picture.height());
+    return sum / (one.width() * one.height());
+}
+
+QImage resized(const QImage &picture, const QSize &size)
+{
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// An icon as a screen of as many pixels can show it, on the ground of `shown`.
+QImage ideal(const QPixmap &icon, const QImage &shown)
+{
+    QImage whole(shown.size(), QImage::Format_RGB32);
+    whole.fill(shown.pixel(0, 0));
+    QPainter(&whole).drawImage(0, 0, resized(icon.toImage(), shown.size()));
+    return whole;
 }
 
 TEST(Crisp, TheDensityIsTheOneAskedFor)
@@ -132,11 +143,13 @@ TEST(Crisp, ThePanelsIconsUseEveryPixel)
             }
             ++icons;
             const QImage shown = partOf(picture, *label);
-            if (askedDensity() > 1) {
-                EXPECT_GT(fineness(shown, askedDensity()), 0.5) << label->objectName().toStdString();
-            }
             const QPixmap own = label->pixmap();
             EXPECT_GE(own.width(), shown.width()) << "drawn larger than it is";
+            const QImage best = ideal(own, shown);
+            const double off = difference(shown, best);
+            const QImage coarse = resized(resized(best, label->size()), best.size());
+            EXPECT_LT(off, askedDensity() > 1 ? difference(coarse, best) / 2 : 1.0)
+                << label->objectName().toStdString();
         }
     }
     EXPECT_GT(icons, 10);
