@@ -24,13 +24,17 @@ newer_than() { # list of files
     files | comm -13 "$1" -
 }
 
+# What the packages depend on comes first and without them, so that just their own files and traces are counted.
 prepare() {
+    local package depends=
     apt-get -qq update
-    # What the packages depend on comes first, so that only their own files are counted.
-    apt-get -qq install -y --no-install-recommends ./tessarin-print_*.deb ./tessarin-panel_*.deb \
-        ./tessarin-panel-dev_*.deb g++ libcups2-dev pkg-config fonts-dejavu-core xvfb xdotool >/tmp/apt 2>&1 ||
-        fail "$(tail /tmp/apt)"
-    dpkg -P "${names[@]}" >/dev/null
+    for package in tessarin-print tessarin-panel tessarin-panel-dev; do
+        depends+=", $(dpkg-deb -f ./"$package"_*.deb Depends)"
+    done
+    depends=$(sed -E 's/(, *tessarin-[^,]*)+//g; s/^, *//' <<<"$depends")
+    apt-get -qq satisfy -y --no-install-recommends "$depends" >/tmp/apt 2>&1 || fail "$depends: $(tail /tmp/apt)"
+    apt-get -qq install -y --no-install-recommends g++ libcups2-dev pkg-config fonts-dejavu-core man-db \
+        desktop-file-utils shared-mime-info hicolor-icon-theme xvfb xdotool >/tmp/apt 2>&1 || fail "$(tail /tmp/apt)"
     files >/tmp/before
 }
 
@@ -43,9 +47,9 @@ installed_versions() {
 upgrade() {
     local version
     dpkg -i older/*.deb >/dev/null || fail "the older version cannot be installed"
-    [ "$(installed_versions)" = "0.0.1 0.0.1 0.0.1 " ] || fail "the older version: $(installed_versions)"
+    [ "$(installed_versions)" = "0.0.1~older 0.0.1~older 0.0.1~older " ] || fail "the older version: $(installed_versions)"
     [ "$(find /usr/share -path '*-older*' -type f | wc -l)" = 6 ] || fail "the older version has not its files"
-    apt-get -qq install -y --no-install-recommends ./tessarin-print_*.deb ./tessarin-panel_*.deb \
+    apt-get -q install -y --no-install-recommends ./tessarin-print_*.deb ./tessarin-panel_*.deb \
         ./tessarin-panel-dev_*.deb </dev/null >/tmp/apt 2>&1 ||
         fail "upgrading: $(tail /tmp/apt)"
     version=$(dpkg-deb -f ./tessarin-print_*.deb Version)

@@ -22,7 +22,7 @@ make_older() { # package's file
     rm -rf "$content"
     dpkg-deb -R "$1" "$content"
     name=$(dpkg-deb -f "$1" Package)
-    sed -Ei 's/^Version: .*/Version: 0.0.1/; s/^(Depends:.*tessarin-panel \(= )[^)]*/\10.0.1/' "$content/DEBIAN/control"
+    sed -Ei 's/^Version: .*/Version: 0.0.1~older/; s/^(Depends:.*tessarin-panel \(= )[^)]*/\10.0.1~older/' "$content/DEBIAN/control"
     rm "$content/DEBIAN/md5sums"
     mkdir -p "$content/usr/share/$name-older/folder"
     echo "of the older version" | tee "$content/usr/share/$name-older/folder/file" >"$content/usr/share/$name-older.conf"
