@@ -57,6 +57,15 @@ TEST_P(PanelReading, NamesEveryControl)
     }
 }
 
+TEST_P(PanelReading, TranslatesTheNamesOfWhatHasNoCaption)
+{
+    const auto translated = [this](const char *text) {
+        return session.bundle->localizedString(QString::fromLatin1(text)).toStdString();
+    };
+    EXPECT_EQ(nameOf(session.popup(kPopCMYKspace)), translated("CMYK-Colorspace"));
+    EXPECT_EQ(nameOf(session.slider(kSliderBrightMagenta)), translated("Usage Bright Magenta"));
+}
+
 TEST_P(PanelReading, GivesSlidersTheValuesThatAreShown)
 {
     for (int number = 0; number < static_cast<int>(kSliderCount); ++number) {
