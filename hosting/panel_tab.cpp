@@ -5,6 +5,7 @@
 
 #include "host/installation.h"
 #include "host/open_printer.h"
+#include "host/panel_area.h"
 #include "host/plugin_loader.h"
 #include "printing/host_printer.h"
 #include "printing/text.h"
@@ -20,26 +21,21 @@ using host::Outcome;
 namespace {
 
 /// What the dialog gets as its tab, and deletes as its own. The panel's view only visits it: the panel clears its
-/// controls away itself, and must find them whole, whichever goes first.
+/// controls away itself, and must find them whole, whichever goes first. On a small screen the view scrolls.
 class Holder final : public QWidget {
 public:
-    explicit Holder(QWidget *view) : view_(view), formerParent_(view->parentWidget())
+    explicit Holder(QWidget *view) : area_(new host::PanelArea(this))
     {
         auto *column = new QVBoxLayout(this);
-        column->addWidget(view);
+        column->addWidget(area_);
+        area_->showView(view);
     }
-    ~Holder() override
-    {
-        if (view_) {
-            view_->setParent(formerParent_);
-        }
-    }
+    ~Holder() override { area_->releaseView(); }
     Holder(const Holder &) = delete;
     Holder &operator=(const Holder &) = delete;
 
 private:
-    QPointer<QWidget> view_;
-    QPointer<QWidget> formerParent_;
+    host::PanelArea *area_; ///< owned by this widget
 };
 
 Outcome<std::shared_ptr<host::HostPrinter>> openPrinter(const PanelTabRequest &request)

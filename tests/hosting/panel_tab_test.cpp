@@ -55,6 +55,33 @@ protected:
     QPrintDialog dialog_{&printer_};
 };
 
+TEST_F(PanelTabTest, ScrollsOnASmallScreenWithALargeFont)
+{
+    const QFont before = QApplication::font();
+    QFont larger = before;
+    larger.setPointSizeF(before.pointSizeF() * 1.5);
+    QApplication::setFont(larger);
+    {
+        QPrinter printer;
+        QPrintDialog dialog(&printer);
+        dialog.ensurePolished();
+        const QSize without = dialog.minimumSizeHint();
+        const auto tab = PanelTab::addTo(dialog, sample());
+        EXPECT_TRUE(tab->isOpen()) << tab->problem().toStdString();
+        int looked = 0;
+        for (const QTabWidget *widget : dialog.findChildren<QTabWidget *>()) {
+            if (widget->objectName() != u"PDETabView"_s) { // the panel's own tabs, which scroll
+                ++looked;
+                EXPECT_LE(widget->minimumSizeHint().width(), 1000);
+                EXPECT_LE(widget->minimumSizeHint().height(), 400);
+            }
+        }
+        EXPECT_GT(looked, 0);
+        EXPECT_LE(dialog.minimumSizeHint().width(), std::max(1000, without.width()));
+    }
+    QApplication::setFont(before);
+}
+
 TEST_F(PanelTabTest, AddsThePanelUnderItsTitle)
 {
     const auto tab = add(sample());
