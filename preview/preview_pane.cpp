@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 
 namespace tessarin::host {
 
@@ -142,12 +141,11 @@ void PreviewPane::forget()
 void PreviewPane::showSheet(int sheet)
 {
     const int sheets = renderer_ ? renderer_->sheets() : 0;
-    const int wanted = std::clamp(sheet, 0, std::max(0, sheets - 1));
+    sheet_ = std::clamp(sheet, 0, std::max(0, sheets - 1));
     failure_.clear(); // the old picture stays until the new one is there
     if (sheets == 0) {
         forget();
     }
-    sheet_ = wanted;
     patience_.start();
     showPosition();
     ask();
@@ -159,8 +157,7 @@ void PreviewPane::ask()
     asking_.stop();
     if (renderer_ && isVisible()) {
         // Cut, not rounded: a picture that is a fraction of a pixel too large would be scaled.
-        const QSizeF room = QSizeF(paperArea().size()) * devicePixelRatioF();
-        renderer_->request(sheet_, QSize(static_cast<int>(room.width()), static_cast<int>(room.height())));
+        renderer_->request(sheet_, (QSizeF(paperArea().size()) * devicePixelRatioF() - QSizeF(0.5, 0.5)).toSize());
     }
 }
 
@@ -213,20 +210,17 @@ void PreviewPane::drawPaper(QPainter &painter, const QRect &area) const
         size.scale(area.size(), Qt::KeepAspectRatio); // it was drawn for another size, and a new one is on its way
     }
     const QPointF corner = QRectF(area).center() - QPointF(size.width() / 2, size.height() / 2);
-    // Between the screen's own pixels the picture would be blurred; where they are, only the window knows.
+    // Between the screen's own pixels, which only the window knows, the picture would be blurred.
     const QTransform toDevice = painter.deviceTransform();
-    const QPointF onDevice = toDevice.map(corner);
-    const QPointF whole(std::round(onDevice.x()), std::round(onDevice.y()));
-    const QRectF place(toDevice.inverted().map(whole), size);
+    const QRectF place(toDevice.inverted().map(QPointF(toDevice.map(corner).toPoint())), size);
     QColor shadow = palette().color(QPalette::Shadow);
     shadow.setAlpha(kShadowAlpha);
     for (int distance = 1; distance <= kShadow; ++distance) {
         painter.fillRect(place.translated(distance, distance), shadow);
     }
-    // Pixel by pixel where it was drawn for this size: at fractional densities a filter would blur it a little.
+    // Pixel by pixel where it was drawn for this size: a filter would blur it a little.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, size != image_.deviceIndependentSize());
     painter.drawImage(place, image_);
-    painter.setBrush(Qt::NoBrush);
     painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
                               : QPen(palette().color(QPalette::Mid)));
     painter.drawRect(place.adjusted(-0.5, -0.5, 0.5, 0.5));
