@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTextOption>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -238,7 +239,9 @@ void PreviewPane::paintEvent(QPaintEvent * /*event*/)
         drawPaper(painter, area);
     } else if (!patience_.isActive()) {
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(area, Qt::AlignCenter | Qt::TextWrapAnywhere, text);
+        QTextOption option(Qt::AlignCenter);
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // a file's name may be one long word
+        painter.drawText(QRectF(area), text, option);
     }
 }
 
