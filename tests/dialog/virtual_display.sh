@@ -17,7 +17,8 @@
 start_display() {
     mkfifo "$work/display"
     # Without a reset: at one, when its last client has gone, the server would end for want of who reads its number.
-    Xvfb -displayfd 3 -screen 0 "${screen:-1280x1024}x24" -nolisten tcp -noreset 3>"$work/display" >"$work/xvfb.log" 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${screen:-1280x1024}x24" -nolisten tcp -noreset \
+        3>"$work/display" >"$work/xvfb.log" 2>&1 &
     local number
     read -r -t 30 number <"$work/display" || fail "the virtual display did not start"
     export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8
