@@ -8,7 +8,7 @@ set -euo pipefail
 names=(tessarin-print tessarin-panel tessarin-panel-dev)
 sample=/usr/share/tessarin/tessarin-sample.ppd
 export HOME=/tmp/home XDG_RUNTIME_DIR=/tmp/home
-mkdir -p -m 700 "$HOME"
+mkdir -m 700 "$HOME"
 fail() {
     echo "packages: $*" >&2
     exit 1
