@@ -13,7 +13,8 @@ namespace tessarin::host {
 
 namespace {
 
-constexpr double kPaleness = 0.35; // of the ground in a hint's colour
+// Of the ground in a hint's colour: no darker than it must be, lest it pass for a value.
+constexpr double kPaleness = 0.44;
 
 double linear(double channel)
 {
