@@ -37,21 +37,25 @@ Translation::Translation(const QString &language)
 {
     setTextLanguage(language);
     const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);
+    const auto load = [](TranslationFile &file, const QString &code) {
+        return file.load(translationsDirectory() + QStringLiteral("/tessarin-print_%1.qm").arg(code));
+    };
+    const QStringList codes = translationCodes(locale);
+    const auto code =
+        std::find_if(codes.begin(), codes.end(), [&](const QString &one) { return load(program_, one); });
+    // The toolkit's buttons speak the program's language, not another one of the person's that only the toolkit
+    // knows.
+    const bool toolkit = code != codes.end() && toolkit_.load(QStringLiteral("qtbase_") + *code,
+                                                              QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     const auto install = [](QTranslator &translator, bool isLoaded) {
         if (isLoaded) {
             QCoreApplication::installTranslator(&translator);
         }
     };
-    const auto load = [](TranslationFile &file, const QString &code) {
-        return file.load(translationsDirectory() + QStringLiteral("/tessarin-print_%1.qm").arg(code));
-    };
     // The one that is installed last is asked first.
     install(english_.translator(), load(english_, QStringLiteral("en")));
-    install(toolkit_, toolkit_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
-    const QStringList codes = translationCodes(locale);
-    install(program_.translator(),
-            std::any_of(codes.begin(), codes.end(), [&](const QString &code) { return load(program_, code); }));
+    install(toolkit_, toolkit);
+    install(program_.translator(), code != codes.end());
 }
 
 Translation::~Translation()

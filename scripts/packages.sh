@@ -7,7 +7,7 @@
 build_packages=(
     cmake ninja-build g++
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libvulkan-dev
-    libqt6gui6 qt6-qpa-plugins fonts-dejavu-core
+    libqt6gui6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core
     libcups2-dev zlib1g-dev pkgconf libpoppler-qt6-dev
 )
 test_packages=(

@@ -65,6 +65,21 @@ TEST(DialogTranslation, HasThreePluralFormsInPolish)
     EXPECT_EQ(forms.size(), 3);
 }
 
+QString toolkitsCancel()
+{
+    return QCoreApplication::translate("QPlatformTheme", "Cancel");
+}
+
+// The toolkit has Russian and Hebrew texts, the dialog has not: half a translation would be worse than none.
+TEST(DialogTranslation, LeavesTheToolkitEnglishWhereTheDialogIs)
+{
+    for (const QString &code : {u"ru"_s, u"he"_s, u"en"_s, u"xyz"_s}) {
+        const Translation translation(code);
+        EXPECT_EQ(toolkitsCancel(), u"Cancel"_s) << code.toStdString();
+        EXPECT_EQ(QCoreApplication::translate("QGuiApplication", "QT_LAYOUT_DIRECTION"), u"QT_LAYOUT_DIRECTION"_s);
+    }
+}
+
 std::vector<std::string> dialogLanguages()
 {
     std::vector<std::string> codes;
@@ -103,6 +118,13 @@ TEST_P(DialogLanguages, GiveNoShortcutTwiceInTheMainWindow)
         EXPECT_FALSE(taken.contains(letter)) << text.toStdString() << " and " << taken.value(letter).toStdString();
         taken.insert(letter, text);
     }
+}
+
+TEST_P(DialogLanguages, AreSpokenByTheToolkit)
+{
+    ASSERT_EQ(toolkitsCancel(), u"Cancel"_s);
+    const Translation translation(code());
+    EXPECT_EQ(toolkitsCancel() == u"Cancel"_s, GetParam() == "en") << toolkitsCancel().toStdString();
 }
 
 TEST_P(DialogLanguages, AreSpokenByTheProgram)
