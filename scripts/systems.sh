@@ -6,9 +6,11 @@
 # and fresh ones in which packages are tried.
 #
 #   system_make <folder> <architecture> <package>...   makes one, or adds what it lacks; kept from run to run
+#   system_copy <folder> <new folder>                  makes a copy of one
+#   system_remove <folder>
 #   system_run <folder> <shared folder> <command>...   runs a command in it, in the shared folder
 #
-# Both need root, or sudo, and say so.
+# All need root, or sudo, and say so.
 
 system_suite=bookworm
 system_mark=made-for-tessarin
@@ -45,6 +47,13 @@ system_remove() { # folder
         return 1
     fi
     "${as_root[@]}" rm -rf --one-file-system "$1"
+}
+
+# The mark comes first: whatever ends the copying, what there is then can be removed.
+system_copy() { # folder, new folder
+    "${as_root[@]}" mkdir -p "$2"
+    "${as_root[@]}" touch "$2/$system_mark"
+    "${as_root[@]}" cp -a "$1/." "$2/"
 }
 
 system_make() { # folder, architecture, packages...

@@ -6,11 +6,14 @@
 # dialog with its panel, and removing them leaves no file.
 #
 #   try_packages.sh <folder of the packages>
+#
+# Exit status: 0 all is well; 1 something is not; 3 there is no fresh system, and none can be made.
 set -euo pipefail
 packages=$(cd "$1" && pwd)
 scripts=$(cd "$(dirname "$0")" && pwd)
 . "$scripts/systems.sh"
 base=${TESSARIN_FRESH:-/var/cache/tessarin/fresh}
+fresh=$base.trial
 fail() {
     echo "packages: $*" >&2
     exit 1
@@ -30,18 +33,33 @@ make_older() { # package's file
     rm -rf "$content"
 }
 
+# Two trials at once would share the fresh system and its copy. Root makes the lock's file, anybody may open it.
+wait_for_others() {
+    "${as_root[@]}" mkdir -p "$(dirname "$base")"
+    "${as_root[@]}" touch "$base.lock"
+    exec {lock}<"$base.lock"
+    flock --nonblock "$lock" && return
+    echo "packages: waiting for another trial to end" >&2
+    flock "$lock"
+}
+
+# Of a trial that was killed there may be a copy left.
+clean_up() {
+    rm -rf "$packages/trial.sh" "$packages/older"
+    system_remove "$fresh"
+}
+
+become_root "$base" || exit 3
+wait_for_others
+system_make "$base" "$(dpkg --print-architecture)" || exit 3
+clean_up || exit 3
+trap clean_up EXIT
 lintian --fail-on error "$packages"/*.changes >"$packages/lintian" 2>&1 || fail "lintian: $(cat "$packages/lintian")"
-rm -rf "$packages/older"
 mkdir -p "$packages/older"
 for package in tessarin-print tessarin-panel tessarin-panel-dev; do
     make_older "$(echo "$packages/${package}"_*.deb)"
 done
 cp "$scripts/trial.sh" "$packages/trial.sh"
-system_make "$base" "$(dpkg --print-architecture)" || exit 1
-
-# What follows runs within a copy, so that each trial begins with a fresh system.
-fresh=$base.trial
-system_remove "$fresh" || exit 1
-"${as_root[@]}" cp -a "$base" "$fresh"
-trap '"${as_root[@]}" rm -rf --one-file-system "$fresh" "$packages/trial.sh" "$packages/older"' EXIT
-system_run "$fresh" "$packages" bash trial.sh
+# The trial runs within a copy, so that each begins with a fresh system.
+system_copy "$base" "$fresh" || fail "the fresh system cannot be copied to $fresh"
+system_run "$fresh" "$packages" bash trial.sh || exit 1

@@ -57,4 +57,68 @@ status=0
 output=$(PATH=$bin:$PATH "$tessarin" --no-setup test --32 2>&1) || status=$?
 [ "$status" = 3 ] && grep -qF "E: no such host" <<<"$output" && grep -qF "is there a network" <<<"$output" ||
     { echo "FAILED: --32 without network: status $status, $output"; exit 1; }
+
+# Packages and their trial, in a tree of the commands alone, with programs that only seem to build packages and to enter
+# a system. What the trial has left behind counts, however it ended.
+tree=$bin/tree
+export TESSARIN_FRESH=$bin/fresh STANDINS=$bin
+mkdir "$tree"
+cp -r "$1/tessarin" "$1/scripts" "$tree/"
+stand_in() { # program, its commands
+    printf '#!/bin/bash\n%s\n' "$2" >"$bin/$1"
+    chmod +x "$bin/$1"
+}
+stand_in dpkg-buildpackage 'for name in tessarin-print tessarin-panel tessarin-panel-dev; do
+    mkdir -p ../content/DEBIAN
+    printf "Package: %s\nVersion: 1\nArchitecture: all\nMaintainer: a\nDescription: b\n" $name >../content/DEBIAN/control
+    : >../content/DEBIAN/md5sums
+    dpkg-deb -b ../content ../${name}_1_all.deb
+done
+: >../a.changes >../a.buildinfo'
+stand_in lintian 'exit 0'
+stand_in unshare '[[ $* != *trial.sh* ]] || ls "$TESSARIN_FRESH.trial" >"$STANDINS/entered"'
+mkdir "$bin/failing"
+printf '#!/bin/bash\n[[ $* != *fresh.trial* ]] && exec /bin/cp "$@"\n/bin/cp "$@"\necho "no room" >&2\nexit 1\n' >"$bin/failing/cp"
+chmod +x "$bin/failing/cp"
+
+try_packages() { # status, words of the output, folders for programs
+    local status=0
+    output=$(PATH=$3$bin:$PATH "$tree/tessarin" --no-setup package --try 2>&1) || status=$?
+    [ "$status" = "$1" ] && grep -qF "$2" <<<"$output" ||
+        { echo "FAILED: a trial: expected status $1 and \"$2\", got $status and $output"; exit 1; }
+    [ ! -e "$bin/fresh.trial" ] && [ ! -e "$tree/build-package/older" ] && [ ! -e "$tree/build-package/trial.sh" ] ||
+        { echo "FAILED: a trial leaves $(ls -d "$bin"/fresh.trial "$tree"/build-package/{older,trial.sh} 2>&1)"; exit 1; }
+}
+
+try_packages 3 "is there a network" ""
+rm -rf "$bin/fresh"
+mkdir "$bin/fresh"
+touch "$bin/fresh"/{made,made-for-tessarin,program}
+try_packages 0 "tessarin-print_1_all.deb" ""
+grep -qx program "$bin/entered" || { echo "FAILED: the trial was in: $(cat "$bin/entered")"; exit 1; }
+try_packages 1 "no room" "$bin/failing:"
+# One that was killed while copying.
+mkdir "$bin/fresh.trial"
+touch "$bin/fresh.trial/made-for-tessarin" "$bin/fresh.trial/part"
+try_packages 0 "tessarin-print_1_all.deb" ""
+# What is not this program's stays.
+mkdir "$bin/fresh.trial"
+touch "$bin/fresh.trial/somebody-elses"
+output=$(PATH=$bin:$PATH "$tree/tessarin" --no-setup package --try 2>&1) && status=0 || status=$?
+[ "$status" = 3 ] && [ -e "$bin/fresh.trial/somebody-elses" ] ||
+    { echo "FAILED: another's folder: status $status, $output"; exit 1; }
+rm -r "$bin/fresh.trial"
+# Two at once.
+exec {lock}<"$bin/fresh.lock"
+flock "$lock"
+rm "$bin/entered"
+PATH=$bin:$PATH "$tree/tessarin" --no-setup package --try >"$bin/output" 2>&1 {lock}<&- &
+trial=$!
+until grep -q "waiting for another trial" "$bin/output"; do
+    kill -0 $trial 2>/dev/null || { echo "FAILED: no waiting: $(cat "$bin/output")"; exit 1; }
+    sleep 0.1
+done
+[ ! -e "$bin/fresh.trial" ] && [ ! -e "$bin/entered" ] || { echo "FAILED: two trials at once"; exit 1; }
+exec {lock}<&-
+wait $trial && [ -e "$bin/entered" ] || { echo "FAILED: after waiting: $(cat "$bin/output")"; exit 1; }
 echo "passed"
