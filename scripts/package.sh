@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 # Builds the Debian packages from a copy of the tree, so that nothing is written into it, and leaves them in a folder.
-# With --twice they are built once more, different in all that must not matter: folder, time zone, language, umask, the
-# files' order and times, the number of compilers. Both must then be the same byte for byte.
+# With --twice they are built once more, different in what must not matter: folder, home, time zone, locale (C in place of
+# C.UTF-8), umask, the order in which the files were written and their times, the number of compilers. Both must then be
+# the same byte for byte.
 #
 #   package.sh [--twice] <folder for the packages>
 set -euo pipefail
@@ -37,14 +38,14 @@ build_in() { # copy of the tree, variables...
 }
 
 first_build() {
-    build_in "$target/source/tessarin-settings" DEB_BUILD_OPTIONS="parallel=$jobs"
+    build_in "$target/source/tessarin-settings" DEB_BUILD_OPTIONS="parallel=$jobs" LC_ALL=C.UTF-8
     mv "$target"/source/*.deb "$target"/source/*.changes "$target"/source/*.buildinfo "$target/"
 }
 
 second_build() (
     umask 077
     build_in "$target/other/place/copy" DEB_BUILD_OPTIONS="parallel=$((jobs + 1))" TZ=Pacific/Kiritimati LC_ALL=C \
-        LANG=de_DE.UTF-8 LANGUAGE=de:fr HOME="$target/other"
+        HOME="$target/other"
     mv "$target"/other/place/*.deb "$target/again/"
 )
 
