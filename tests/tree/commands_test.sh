@@ -78,7 +78,8 @@ done
 stand_in lintian 'exit 0'
 stand_in unshare '[[ $* != *trial.sh* ]] || ls "$TESSARIN_FRESH.trial" >"$STANDINS/entered"'
 mkdir "$bin/failing"
-printf '#!/bin/bash\n[[ $* != *fresh.trial* ]] && exec /bin/cp "$@"\n/bin/cp "$@"\necho "no room" >&2\nexit 1\n' >"$bin/failing/cp"
+printf '#!/bin/bash\n[[ $* == *fresh.trial* ]] || exec /bin/cp "$@"\ntouch "$TESSARIN_FRESH.trial/part"\necho "no room" >&2\nexit 1\n' \
+    >"$bin/failing/cp"
 chmod +x "$bin/failing/cp"
 
 try_packages() { # status, words of the output, folders for programs
@@ -114,11 +115,12 @@ flock "$lock"
 rm "$bin/entered"
 PATH=$bin:$PATH "$tree/tessarin" --no-setup package --try >"$bin/output" 2>&1 {lock}<&- &
 trial=$!
-until grep -q "waiting for another trial" "$bin/output"; do
+until grep -qE -- "-> FLOCK .*:$(stat -c %i "$bin/fresh.lock") " /proc/locks; do # who waits has an arrow
     kill -0 $trial 2>/dev/null || { echo "FAILED: no waiting: $(cat "$bin/output")"; exit 1; }
     sleep 0.1
 done
-[ ! -e "$bin/fresh.trial" ] && [ ! -e "$bin/entered" ] || { echo "FAILED: two trials at once"; exit 1; }
+[ ! -e "$bin/fresh.trial" ] && [ ! -e "$bin/entered" ] && grep -q "waiting for another trial" "$bin/output" ||
+    { echo "FAILED: two trials at once: $(cat "$bin/output")"; exit 1; }
 exec {lock}<&-
 wait $trial && [ -e "$bin/entered" ] || { echo "FAILED: after waiting: $(cat "$bin/output")"; exit 1; }
 echo "passed"
