@@ -13,7 +13,7 @@ build_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool xauth fonts-droid-fallback weston qt6-wayland
-    cups cups-client man-db
+    cups cups-client ghostscript man-db desktop-file-utils appstream
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
 )
 check_packages=(clang-format clang-tidy debootstrap valgrind)
