@@ -61,6 +61,21 @@ upgrade() {
     newer_than /tmp/before >/tmp/installed
 }
 
+# What the desktop and the manual find: the programs' pages in other languages, the icon, and the dialog among the
+# programs for PDF files.
+look_around() {
+    local program page icon
+    for program in tessarin-print tessarin-replay tessarin-inkdata tessarin-settings; do
+        page=$(man -L de -w "$program") || fail "no manual page $program"
+        [[ $page == */man/de/* ]] || fail "the manual page in German is $page"
+        man "$page" | grep -q BESCHREIBUNG || fail "$page is not in German"
+    done
+    icon=$(sed -n 's/^Icon=//p' /usr/share/applications/org.tessarin.Print.desktop)
+    [ -s "/usr/share/icons/hicolor/scalable/apps/$icon.svg" ] || fail "no icon $icon"
+    grep -q '^application/pdf=.*org.tessarin.Print.desktop;' /usr/share/applications/mimeinfo.cache ||
+        fail "no program for PDF files: $(cat /usr/share/applications/mimeinfo.cache)"
+}
+
 use_without_display() {
     local example=/usr/share/doc/tessarin-panel-dev/examples/minimal_host.cpp bundle
     export QT_QPA_PLATFORM=offscreen
@@ -70,7 +85,6 @@ use_without_display() {
     tessarin-print --sample --log none --language de --summary | grep -q "^Medientyp: " || fail "no German"
     echo '{"do":"panels"}' | tessarin-replay --quiet-log --ppd $sample | grep -q '"value":1' || fail "tessarin-replay"
     tessarin-inkdata --help >/dev/null || fail "tessarin-inkdata"
-    ! ldd /usr/lib/*/tessarin/libtessarin-pdf.so | grep "not found" || fail "a library is missing"
     # shellcheck disable=SC2046 # several flags
     g++ -std=c++20 -w -fPIC -I/usr/include/tessarin -o /tmp/host "$example" \
         $(pkg-config --cflags --libs Qt6Widgets) -lcups 2>/tmp/errors || fail "a host does not compile: $(cat /tmp/errors)"
@@ -82,20 +96,43 @@ window() { # the dialog's, by its title in German
     xdotool search --onlyvisible --name '^Drucken' 2>/dev/null | tail -n 1
 }
 
+write_pdf() { # file: one empty page
+    printf '%s\n' '%PDF-1.4' '1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj' \
+        '2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj' \
+        '3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 200]>>endobj' 'trailer<</Root 1 0 R>>' >"$1"
+}
+
+wait_until() { # what, command...
+    local what=$1 i
+    shift
+    for ((i = 0; i < 600; i++)); do
+        ! "$@" || return 0
+        kill -0 "$dialog" 2>/dev/null || fail "the dialog ended: $(cat /tmp/errors)"
+        sleep 0.2
+    done
+    fail "$what: $(cat /tmp/errors)"
+}
+
+has_window() {
+    [ -n "$(window)" ]
+}
+
+# The reader of PDF files comes with the first of them, if all that it needs is there.
+has_pdf_reader() {
+    grep -q '/libtessarin-pdf\.so$' "/proc/$dialog/maps"
+}
+
 use_with_display() {
     local dialog number status=0 i
     mkfifo /tmp/display
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>/tmp/display >/tmp/xvfb 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>/tmp/display >/tmp/xvfb 2>&1 &
     read -r -t 60 number </tmp/display || fail "the virtual display did not start: $(cat /tmp/xvfb)"
     export DISPLAY=:$number QT_QPA_PLATFORM=xcb
-    tessarin-print --sample --log none --language de >/tmp/options 2>/tmp/errors &
+    write_pdf /tmp/page.pdf
+    tessarin-print --sample --log none --language de /tmp/page.pdf >/tmp/options 2>/tmp/errors &
     dialog=$!
-    for ((i = 0; i < 600; i++)); do
-        [ -z "$(window)" ] || break
-        kill -0 $dialog 2>/dev/null || fail "the dialog ended: $(cat /tmp/errors)"
-        sleep 0.2
-    done
-    [ -n "$(window)" ] || fail "no window appears"
+    wait_until "no window appears" has_window
+    wait_until "no PDF file can be read" has_pdf_reader
     # It may take the key only once it is painted.
     for ((i = 0; i < 60; i++)); do
         xdotool windowfocus "$(window)" key Escape 2>/dev/null || true
@@ -118,6 +155,7 @@ clean_up() {
 
 prepare
 upgrade
+look_around
 use_without_display
 use_with_display
 clean_up
