@@ -17,10 +17,7 @@ fail() {
     exit 1
 }
 
-# block <document> <number>: the number-th fenced block, without its fences.
-block() {
-    awk -v wanted="$2" '/^```/ { inside = !inside; if (inside) number++; next } inside && number == wanted' "$1"
-}
+. "$(dirname "$0")/blocks.sh"
 
 # The host: what is printed is what is compiled, and it runs.
 diff <(block "$tree/docs/hosting.md" 1) <(sed -n '4,$p' "$tree/examples/minimal_host.cpp") ||
@@ -50,6 +47,29 @@ diff page out && grep -qx 'INFO: printing on PhotoPearl07' err || fail "the filt
 echo 'a text' >a.txt
 bash -c "$(block "$guide" 7)" >options || fail "the job's options"
 grep -qx 'vornMediaType=PhotoPearl07' options || fail "the job's options: $(cat options)"
+
+# The pop-up is a PPD's, and all that it needs. (A medium whose key ends in 0 is shown with a mark.)
+{
+    printf '*PPD-Adobe: "4.3"\n'
+    indented "$guide" 1
+} >popup.ppd
+for choice in "" PlainPaper00 ColorChart02; do
+    tessarin-print --ppd popup.ppd --log none --summary ${choice:+-o "vornMediaType=$choice"} 2>err |
+        grep '^Media Type: ' || fail "the pop-up's PPD: $(cat err)"
+done >media
+diff media - <<'END' || fail "the pop-up has other choices"
+Media Type: Photo Pearl 290 g
+Media Type: Plain Paper 80 g *
+Media Type: Color Chart Paper (no color data)
+END
+
+# The session: its command stands in the text.
+replay=$tree/docs/replay.md
+ln -s "$tree/examples" examples
+indented "$replay" 2 >script
+command=$(sed -n 's/^and `\(tessarin-replay .*\)` answers:$/\1/p' "$replay")
+bash -c "${command:?}" >trace || fail "$command"
+diff trace <(indented "$replay" 3) || fail "another answer to the session"
 
 # The commands that documents show exist.
 for document in "$tree"/README.md "$tree"/CONTRIBUTING.md "$tree"/docs/*.md; do
