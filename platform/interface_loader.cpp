@@ -6,6 +6,7 @@
 #include "platform/interface_scale.h"
 #include "platform/popup_button.h"
 #include "platform/tab_view.h"
+#include "platform/view_tags.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -71,6 +72,7 @@ std::unique_ptr<QWidget> loadInterfaceFile(const QString &path, const QHash<QStr
         *reason = path + QStringLiteral(": ") + loader.errorString();
         return nullptr;
     }
+    readTagsAgain(view.get());
     scaleInterface(view.get(), interfaceScale(view->font()));
     return view;
 }

@@ -38,6 +38,7 @@ struct KnownTag {
 class KnownTags {
 public:
     KnownTag &of(const QWidget *view);
+    void readAgain(const QWidget *view);
 
 private:
     static KnownTag read(const QWidget *view);
@@ -69,10 +70,15 @@ KnownTag &KnownTags::of(const QWidget *view)
     return known;
 }
 
-KnownTag &knownTag(const QWidget *view)
+void KnownTags::readAgain(const QWidget *view)
+{
+    of(view) = read(view);
+}
+
+KnownTags &knownTags()
 {
     static KnownTags tags;
-    return tags.of(view);
+    return tags;
 }
 
 void dropDeadHandles(QHash<qintptr, QPointer<QWidget>> &handles)
@@ -95,7 +101,7 @@ qintptr tagOf(const QWidget *view)
     if (view == nullptr) {
         return 0;
     }
-    const KnownTag &known = knownTag(view);
+    const KnownTag &known = knownTags().of(view);
     return known.level != nullptr ? known.level->tag() : known.tag;
 }
 
@@ -104,11 +110,21 @@ void setTagOf(QWidget *view, qintptr tag)
     if (view == nullptr) {
         return;
     }
-    KnownTag &known = knownTag(view);
+    KnownTag &known = knownTags().of(view);
     if (known.level != nullptr) {
         dynamic_cast<LevelView *>(view)->setTag(tag);
     } else {
         known.tag = tag;
+    }
+}
+
+void readTagsAgain(const QWidget *root)
+{
+    knownTags().readAgain(root);
+    for (const QObject *child : root->children()) {
+        if (child->isWidgetType()) {
+            readTagsAgain(static_cast<const QWidget *>(child));
+        }
     }
 }
 

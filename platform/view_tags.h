@@ -11,7 +11,7 @@
 namespace tessarin {
 
 /// Name of the property in the interface file that gives a view its tag. It counts as it stands when the view is
-/// first asked for its tag; later only setTagOf() changes it.
+/// first asked for its tag; later only setTagOf() and readTagsAgain() change it.
 inline constexpr char kTagProperty[] = "tag";
 
 /// Whether the view is a control (pop-up, slider, button, check box, text field), not a plain view.
@@ -22,6 +22,10 @@ qintptr tagOf(const QWidget *view);
 
 /// Gives the view a tag. Null is ignored.
 void setTagOf(QWidget *view, qintptr tag);
+
+/// Takes the tags of `root` and all its subviews from their properties, whatever was known of them. For views that
+/// may have been asked while they were being made, as a screen reader does.
+void readTagsAgain(const QWidget *root);
 
 /// The first view with the tag: `root` itself, then its subviews depth first in their order; null when there is
 /// none.

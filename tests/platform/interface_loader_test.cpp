@@ -128,6 +128,24 @@ TEST_F(InterfaceLoader, GivesViewsTheTagsOfTheFile)
     EXPECT_EQ(tagOf(top.get()), -1);
 }
 
+// A screen reader asks for views that are only being made.
+TEST_F(InterfaceLoader, GivesTagsToViewsThatWereAskedForThemBefore)
+{
+    qintptr early = -99;
+    const QHash<QString, ViewMaker> makers{{QStringLiteral("Early"), [&early](QWidget *parent) -> QWidget * {
+                                                auto *slider = new QSlider(parent);
+                                                early = tagOf(slider);
+                                                return slider;
+                                            }}};
+    const auto top = load(writeViews("<widget class=\"Early\" name=\"slider\"><property name=\"tag\" stdset=\"0\">"
+                                     "<number>4104</number></property></widget>"),
+                          makers);
+    ASSERT_NE(top, nullptr);
+    EXPECT_EQ(early, 0);
+    EXPECT_EQ(tagOf(top->findChild<QWidget *>(QStringLiteral("slider"))), 4104);
+    EXPECT_EQ(viewWithTag(top.get(), 4104), top->findChild<QWidget *>(QStringLiteral("slider")));
+}
+
 TEST_F(InterfaceLoader, LeavesTextsAsTheFileGivesThem)
 {
     Shouting translator;

@@ -102,6 +102,17 @@ TEST(ViewTags, OfAViewThatHasGoneAreNotThoseOfOneInItsPlace)
     plain->~QWidget();
 }
 
+TEST(ViewTags, AreReadAgainOfAViewThatWasAskedTooEarly)
+{
+    QWidget top;
+    QSlider slider(&top);
+    ASSERT_EQ(tagOf(&slider), 0);
+    slider.setProperty("tag", 4104);
+    readTagsAgain(&top);
+    EXPECT_EQ(tagOf(&slider), 4104);
+    EXPECT_EQ(tagOf(&top), -1);
+}
+
 TEST(ViewTags, AreKnownOfMoreViewsThanArePurgedAtOnce)
 {
     std::vector<std::unique_ptr<QWidget>> kept;
