@@ -503,7 +503,7 @@ Ce profil ne doit servir qu’à imprimer des chartes de couleurs !</translatio
     </message>
     <message>
         <source>The job&apos;s ink is counted, but nothing is printed.</source>
-        <translation>L’encre du travail est comptée, mais rien n’est imprimé.</translation>
+        <translation>L’encre de la tâche est comptée, mais rien n’est imprimé.</translation>
     </message>
     <message>
         <source>Lets the four sliders of this page change the colors of the print.</source>
@@ -515,11 +515,11 @@ Ce profil ne doit servir qu’à imprimer des chartes de couleurs !</translatio
     </message>
     <message>
         <source>How much of this ink the last job used.</source>
-        <translation>La quantité de cette encre utilisée par le dernier travail.</translation>
+        <translation>La quantité de cette encre utilisée par la dernière tâche.</translation>
     </message>
     <message>
         <source>How much of this ink all jobs together have used.</source>
-        <translation>La quantité de cette encre utilisée par tous les travaux ensemble.</translation>
+        <translation>La quantité de cette encre utilisée par toutes les tâches ensemble.</translation>
     </message>
     <message>
         <source>Reads again how much ink was used.</source>

@@ -391,7 +391,7 @@ Gebruik dit profiel alleen om kleurenkaarten af te drukken!</translation>
     </message>
     <message>
         <source>The ink cartridges that are in the printer.</source>
-        <translation>De inktpatronen die in de printer zitten.</translation>
+        <translation>De cartridges die in de printer zitten.</translation>
     </message>
     <message>
         <source>What is printed on; ink amounts and colors are matched to it.</source>
@@ -475,11 +475,11 @@ Gebruik dit profiel alleen om kleurenkaarten af te drukken!</translation>
     </message>
     <message>
         <source>The most cyan ink that may fall on one spot.</source>
-        <translation>De meeste cyaan inkt die op één plek mag komen.</translation>
+        <translation>De meeste cyaaninkt die op één plek mag komen.</translation>
     </message>
     <message>
         <source>The most magenta ink that may fall on one spot.</source>
-        <translation>De meeste magenta inkt die op één plek mag komen.</translation>
+        <translation>De meeste magenta-inkt die op één plek mag komen.</translation>
     </message>
     <message>
         <source>The most yellow ink that may fall on one spot.</source>

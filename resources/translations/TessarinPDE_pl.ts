@@ -391,15 +391,15 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>The ink cartridges that are in the printer.</source>
-        <translation>Wkłady atramentowe, które są w drukarce.</translation>
+        <translation>Wkłady z tuszem, które są w drukarce.</translation>
     </message>
     <message>
         <source>What is printed on; ink amounts and colors are matched to it.</source>
-        <translation>To, na czym się drukuje; ilości atramentu i kolory są do tego dopasowane.</translation>
+        <translation>To, na czym się drukuje; ilości tuszu i kolory są do tego dopasowane.</translation>
     </message>
     <message>
         <source>How finely the ink drops are placed: a higher resolution shows more detail and takes longer.</source>
-        <translation>Jak gęsto są umieszczane krople atramentu: wyższa rozdzielczość daje więcej szczegółów i trwa dłużej.</translation>
+        <translation>Jak gęsto są umieszczane krople tuszu: wyższa rozdzielczość daje więcej szczegółów i trwa dłużej.</translation>
     </message>
     <message>
         <source>How colors that cannot be printed are replaced by colors that can.</source>
@@ -411,7 +411,7 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>The pattern of ink drops from which shades are made.</source>
-        <translation>Wzór kropli atramentu, z którego powstają odcienie.</translation>
+        <translation>Wzór kropli tuszu, z którego powstają odcienie.</translation>
     </message>
     <message>
         <source>What the numbers of RGB data mean as colors.</source>
@@ -451,11 +451,11 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>How much of dark and grey tones is printed with black ink in place of colored inks.</source>
-        <translation>Jaka część ciemnych i szarych tonów jest drukowana czarnym atramentem zamiast kolorowych.</translation>
+        <translation>Jaka część ciemnych i szarych tonów jest drukowana czarnym tuszem zamiast kolorowych.</translation>
     </message>
     <message>
         <source>How much bright cyan ink is used in place of cyan; without a slider for magenta, how much of all bright inks.</source>
-        <translation>Ile jasnego cyjanu jest używane zamiast cyjanu; bez suwaka magenty: ile wszystkich jasnych atramentów.</translation>
+        <translation>Ile jasnego cyjanu jest używane zamiast cyjanu; bez suwaka magenty: ile wszystkich jasnych tuszy.</translation>
     </message>
     <message>
         <source>How much bright magenta ink is used in place of magenta.</source>
@@ -463,27 +463,27 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>The most ink of all colors together that may fall on one spot.</source>
-        <translation>Największa łączna ilość atramentu wszystkich kolorów w jednym miejscu.</translation>
+        <translation>Największa łączna ilość tuszu wszystkich kolorów w jednym miejscu.</translation>
     </message>
     <message>
         <source>Takes this share away from the amount of all inks.</source>
-        <translation>Zmniejsza ilość wszystkich atramentów o tę część.</translation>
+        <translation>Zmniejsza ilość wszystkich tuszy o tę część.</translation>
     </message>
     <message>
         <source>The most black ink that may fall on one spot.</source>
-        <translation>Największa ilość czarnego atramentu w jednym miejscu.</translation>
+        <translation>Największa ilość czarnego tuszu w jednym miejscu.</translation>
     </message>
     <message>
         <source>The most cyan ink that may fall on one spot.</source>
-        <translation>Największa ilość cyjanowego atramentu w jednym miejscu.</translation>
+        <translation>Największa ilość cyjanowego tuszu w jednym miejscu.</translation>
     </message>
     <message>
         <source>The most magenta ink that may fall on one spot.</source>
-        <translation>Największa ilość magentowego atramentu w jednym miejscu.</translation>
+        <translation>Największa ilość magentowego tuszu w jednym miejscu.</translation>
     </message>
     <message>
         <source>The most yellow ink that may fall on one spot.</source>
-        <translation>Największa ilość żółtego atramentu w jednym miejscu.</translation>
+        <translation>Największa ilość żółtego tuszu w jednym miejscu.</translation>
     </message>
     <message>
         <source>Adds black to the print or takes it away.</source>
@@ -503,7 +503,7 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>The job&apos;s ink is counted, but nothing is printed.</source>
-        <translation>Atrament zadania jest liczony, ale nic nie jest drukowane.</translation>
+        <translation>Tusz zadania jest liczony, ale nic nie jest drukowane.</translation>
     </message>
     <message>
         <source>Lets the four sliders of this page change the colors of the print.</source>
@@ -515,15 +515,15 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>How much of this ink the last job used.</source>
-        <translation>Ile tego atramentu zużyło ostatnie zadanie.</translation>
+        <translation>Ile tego tuszu zużyło ostatnie zadanie.</translation>
     </message>
     <message>
         <source>How much of this ink all jobs together have used.</source>
-        <translation>Ile tego atramentu zużyły wszystkie zadania razem.</translation>
+        <translation>Ile tego tuszu zużyły wszystkie zadania razem.</translation>
     </message>
     <message>
         <source>Reads again how much ink was used.</source>
-        <translation>Odczytuje ponownie, ile atramentu zużyto.</translation>
+        <translation>Odczytuje ponownie, ile tuszu zużyto.</translation>
     </message>
     <message>
         <source>Not available with %1: %2.</source>
@@ -551,7 +551,7 @@ Ten profil służy tylko do drukowania wzorników kolorów!</translation>
     </message>
     <message>
         <source>Not offered with %1: %2 (%3): %4</source>
-        <translation>Niedostępne przy %1: %2 (%3): %4</translation>
+        <translation>Nieoferowane przy %1: %2 (%3): %4</translation>
     </message>
     <message>
         <source>Excluded by %1: %2 (%3): %4</source>
