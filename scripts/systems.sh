@@ -40,13 +40,15 @@ become_root() { # folder
     as_root=(sudo)
 }
 
-# Removes a system, and nothing that is none.
+# Removes a system, and nothing that is none. The mark goes last, so that what is cut off can be done again.
 system_remove() { # folder
     if [ -e "$1" ] && [ ! -e "$1/$system_mark" ] && [ -n "$(ls -A "$1")" ]; then
         system_needs "$1" "but what is there now was not made by this program: name another folder"
         return 1
     fi
-    "${as_root[@]}" rm -rf --one-file-system "$1"
+    [ -e "$1" ] || return 0
+    "${as_root[@]}" find "$1" -mindepth 1 -maxdepth 1 ! -name $system_mark -exec rm -rf --one-file-system {} + &&
+        "${as_root[@]}" rm -rf --one-file-system "$1"
 }
 
 # The mark comes first: whatever ends the copying, what there is then can be removed.

@@ -54,6 +54,8 @@ wait_for_others
 system_make "$base" "$(dpkg --print-architecture)" || exit 3
 clean_up || exit 3
 trap clean_up EXIT
+# Whoever stops this waits for what runs in the copy: it may not lose the ground it stands on.
+trap 'exit 1' INT TERM HUP
 lintian --fail-on error "$packages"/*.changes >"$packages/lintian" 2>&1 || fail "lintian: $(cat "$packages/lintian")"
 mkdir -p "$packages/older"
 for package in tessarin-print tessarin-panel tessarin-panel-dev; do

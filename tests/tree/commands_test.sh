@@ -76,7 +76,15 @@ stand_in dpkg-buildpackage 'for name in tessarin-print tessarin-panel tessarin-p
 done
 : >../a.changes >../a.buildinfo'
 stand_in lintian 'exit 0'
-stand_in unshare '[[ $* != *trial.sh* ]] || ls "$TESSARIN_FRESH.trial" >"$STANDINS/entered"'
+stand_in unshare '[[ $* == *trial.sh* ]] || exit 0
+ls "$TESSARIN_FRESH.trial" >"$STANDINS/entered"
+[ -e "$STANDINS/stop" ] || exit 0
+kill -TERM $PPID
+for ((i = 0; i < 10; i++)); do
+    sleep 0.1
+    [ -e "$TESSARIN_FRESH.trial/program" ] || { echo "the ground is gone"; exit 1; }
+done
+echo "on firm ground"'
 mkdir "$bin/failing"
 printf '#!/bin/bash\n[[ $* == *fresh.trial* ]] || exec /bin/cp "$@"\ntouch "$TESSARIN_FRESH.trial/part"\necho "no room" >&2\nexit 1\n' \
     >"$bin/failing/cp"
@@ -98,6 +106,18 @@ touch "$bin/fresh"/{made,made-for-tessarin,program}
 try_packages 0 "tessarin-print_1_all.deb" ""
 grep -qx program "$bin/entered" || { echo "FAILED: the trial was in: $(cat "$bin/entered")"; exit 1; }
 try_packages 1 "no room" "$bin/failing:"
+# One that is stopped.
+touch "$bin/stop"
+try_packages 1 "on firm ground" ""
+rm "$bin/stop"
+# One whose removal was cut off.
+mkdir "$bin/cut"
+printf '#!/bin/bash\n[[ $* == *fresh.trial* ]] || exec /bin/rm "$@"\n/bin/rm -rf "${@:3:1}"\nexit 1\n' >"$bin/cut/rm"
+chmod +x "$bin/cut/rm"
+touch "$bin/fresh/aaa"
+PATH=$bin/cut:$bin:$PATH "$tree/tessarin" --no-setup package --try >"$bin/output" 2>&1 || true
+[ -e "$bin/fresh.trial" ] || { echo "FAILED: nothing was cut off: $(cat "$bin/output")"; exit 1; }
+try_packages 0 "tessarin-print_1_all.deb" ""
 # One that was killed while copying.
 mkdir "$bin/fresh.trial"
 touch "$bin/fresh.trial/made-for-tessarin" "$bin/fresh.trial/part"
