@@ -280,6 +280,10 @@ Anteil:</translation>
         <translation>Helltinten-Anteil:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Helle Tinten</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Gesamtfarbauftrag</translation>
     </message>

@@ -280,6 +280,10 @@ claires :</translation>
         <translation>Part encres claires :</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Encres claires</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Encrage total max.</translation>
     </message>

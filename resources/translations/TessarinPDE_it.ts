@@ -280,6 +280,10 @@ chiari:</translation>
         <translation>Uso inch. chiari:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Inchiostri chiari</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Copertura max (TAC)</translation>
     </message>

@@ -280,6 +280,10 @@ Usage:</source>
         <translation>ライトインク使用量:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>ライトインク</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>総インク量上限</translation>
     </message>

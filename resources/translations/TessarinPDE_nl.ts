@@ -280,6 +280,10 @@ lichte inkt:</translation>
         <translation>Aandeel lichte inkt:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Lichte inkten</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Max. inktdekking</translation>
     </message>

@@ -280,6 +280,10 @@ tuszy:</translation>
         <translation>Udział jasn. tuszy:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Jasne tusze</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Łączny limit tuszu</translation>
     </message>

@@ -280,6 +280,10 @@ claras:</translation>
         <translation>Uso de tintas claras:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>Tintas claras</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>Máx. total de tinta</translation>
     </message>

@@ -280,6 +280,10 @@ Usage:</source>
         <translation>浅色墨用量:</translation>
     </message>
     <message>
+        <source>Bright Inks</source>
+        <translation>浅色墨</translation>
+    </message>
+    <message>
         <source>Total Ink Maximum</source>
         <translation>总墨量上限</translation>
     </message>

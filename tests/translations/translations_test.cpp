@@ -65,7 +65,8 @@ QSet<QString> allKeys()
         keys.insert(QString::fromUtf8(sentence));
     }
     for (const char *text :
-         {"Tessarin Settings", "Bright Cyan\nUsage:", "Bright Inks\nUsage:", "Bright Inks Usage:", "Attention:",
+         {"Tessarin Settings", "Bright Cyan\nUsage:", "Bright Inks\nUsage:", "Bright Inks Usage:", "Bright Inks",
+          "Attention:",
           "You have chosen an incomplete media profile without color data!\n"
           "This profile should only be used for printing color charts!",
           "Print Simulation", "ON - printing is disabled", "OFF - printing is enabled", "Postscript-Processor",
