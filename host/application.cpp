@@ -271,9 +271,7 @@ int runApplication(int argc, char **argv)
     const QApplication application(argc, argv);
     const Translation translation(language);
     const PlaceholderKeeper placeholders;
-    if (EdgeStyle::isNeeded(QApplication::palette())) {
-        QApplication::setStyle(new EdgeStyle); // the application owns it
-    }
+    const EdgeKeeper edges;
     // By this name the desktop finds the program's entry, and so its icon in lists of windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarin.Print"));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tessarin.Print")));

@@ -7,6 +7,7 @@
 #include "host/theme.h"
 #include "ink/level_box.h"
 #include "tests/screens/dialog_fixture.h"
+#include "tests/screens/themes.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -28,49 +29,6 @@
 
 namespace tessarin::test {
 namespace {
-
-struct Theme {
-    const char *name;
-    QRgb window;
-    QRgb base;
-    QRgb text;
-    QRgb highlight;
-    QRgb highlightedText;
-};
-
-void PrintTo(const Theme &theme, std::ostream *out)
-{
-    *out << theme.name;
-}
-
-constexpr Theme kThemes[] = {
-    {"Light", 0xFFEFEFEF, 0xFFFFFFFF, 0xFF000000, 0xFF1F6FA8, 0xFFFFFFFF},
-    {"Dark", 0xFF323232, 0xFF232323, 0xFFF0F0F0, 0xFF2A82DA, 0xFF000000},
-    {"HighContrast", 0xFF000000, 0xFF000000, 0xFFFFFFFF, 0xFF1AEBFF, 0xFF000000},
-    {"HighContrastWhite", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFF37006E, 0xFFFFFFFF},
-};
-
-/// As desktops do, this names the usual colours and leaves the rest (hints, links) to Qt.
-QPalette paletteOf(const Theme &theme)
-{
-    QPalette palette;
-    const QColor text = QColor::fromRgb(theme.text);
-    const QColor window = QColor::fromRgb(theme.window);
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, Qt::gray);
-    }
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::Button, window);
-    palette.setColor(QPalette::ToolTipBase, window);
-    palette.setColor(QPalette::Base, QColor::fromRgb(theme.base));
-    palette.setColor(QPalette::AlternateBase, QColor::fromRgb(theme.base));
-    palette.setColor(QPalette::Highlight, QColor::fromRgb(theme.highlight));
-    palette.setColor(QPalette::HighlightedText, QColor::fromRgb(theme.highlightedText));
-    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128)); // what Qt 6.4 has where a theme says nothing
-    return palette;
-}
 
 QRgb commonestColour(const QImage &picture)
 {
@@ -234,11 +192,11 @@ double edgeContrast(QWidget &window, const QWidget &view, int width)
 
 TEST(EdgeStyle, ShowsControlsOnBlack)
 {
-    QApplication::setPalette(paletteOf(kThemes[2]));
+    QApplication::setPalette(paletteOf(kBlackTheme));
     EXPECT_TRUE(host::EdgeStyle::isNeeded(QApplication::palette()));
     const QString before = QApplication::style()->name();
-    QApplication::setStyle(new host::EdgeStyle); // the application owns it
     {
+        const host::EdgeKeeper edges;
         QWidget window;
         window.resize(300, 300);
         QCheckBox check(&window);
@@ -267,6 +225,29 @@ TEST(EdgeStyle, IsNotNeededInUsualThemes)
     EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[0])));
     EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[1])));
     EXPECT_FALSE(host::EdgeStyle::isNeeded(paletteOf(kThemes[3])));
+}
+
+TEST(EdgeKeeper, FollowsTheTheme)
+{
+    const QString before = QApplication::style()->name();
+    QApplication::setPalette(paletteOf(kThemes[0]));
+    {
+        const host::EdgeKeeper edges;
+        QWidget window;
+        window.resize(200, 60);
+        QCheckBox check(&window);
+        check.setGeometry(20, 20, 160, 28);
+        window.show();
+        const QImage light = window.grab().toImage();
+        QApplication::setPalette(paletteOf(kBlackTheme));
+        QApplication::processEvents();
+        EXPECT_GE(edgeContrast(window, check, 14), host::kShapeContrast);
+        QApplication::setPalette(paletteOf(kThemes[0]));
+        QApplication::processEvents();
+        EXPECT_EQ(window.grab().toImage(), light) << "edges stay in a theme that has its own";
+    }
+    QApplication::setStyle(before);
+    QApplication::setPalette(QPalette());
 }
 
 TEST(PlaceholderKeeper, FollowsTheTheme)
