@@ -138,8 +138,9 @@ bool SettingEvents::controlEvent(QWidget *control, QEvent *event)
     }
     int number = 0;
     if (event->type() == QEvent::MouseButtonDblClick) {
-        const QPoint place = static_cast<QMouseEvent *>(event)->position().toPoint();
-        if (sliderOfText(control, place, number) != nullptr) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton &&
+            sliderOfText(control, mouse->position().toPoint(), number) != nullptr) {
             edit(number, {});
             return true;
         }
@@ -232,7 +233,11 @@ void SettingEvents::showMenu(QSlider *slider, int number, const QPoint &place)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (const std::optional<int> position = defaultPosition(*context_(), number)) {
         menu->addAction(localizedSentence(kResetText).arg(valueText(number, *position)), this,
-                        [slider, value = *position] { slider->setValue(value); });
+                        [this, slider, number] {
+                            if (slider->isEnabled()) { // the host may have disabled it under the open menu
+                                reset(*context_(), slider, number);
+                            }
+                        });
     }
     menu->addAction(localizedSentence(kTypeText), this, [this, number] { edit(number, {}); });
     menu->popup(place);
@@ -250,7 +255,8 @@ void SettingEvents::describe(QWidget *control) const
         return;
     }
     const QString description = settingDescription(*context_(), control);
-    if (control->accessibleDescription() != description) {
+    // The view itself shows no setting: its description is the host's.
+    if (!description.isEmpty() && control->accessibleDescription() != description) {
         control->setAccessibleDescription(description);
     }
 }

@@ -30,8 +30,12 @@ public:
     void watchView(QWidget *view);
     /// Watches a pop-up, slider or check box.
     void watchControl(QWidget *control);
-    /// Takes a value that is being typed, when it can be taken.
-    void finishTyping() { editor_.finish(); }
+    /// Takes a value that is being typed, when it can be taken, before the settings are saved.
+    void finishTyping() { editor_.finishToSave(); }
+    /// Forgets a value that is being typed.
+    void dropTyping() { editor_.drop(); }
+    /// Describes all controls anew, while assistive technology is running.
+    void describeAll() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -46,7 +50,6 @@ private:
     void edit(int number, const QString &typed);
     void showMenu(QSlider *slider, int number, const QPoint &place);
     void describe(QWidget *control) const;
-    void describeAll() const;
 
     std::function<const PanelContext *()> context_;
     QPointer<QWidget> view_;

@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
+#include <QTabWidget>
 #include <QToolTip>
 
 #include <algorithm>
@@ -60,16 +61,10 @@ void ValueEditor::open(QSlider *slider, QWidget *valueView, int row, const QStri
         return;
     }
     slider_ = slider;
+    valueView_ = valueView;
     row_ = row;
-    field_ = new QLineEdit(valueView->parentWidget());
-    setTagOf(field_, kNoControl);
-    field_->setAlignment(Qt::AlignRight);
-    field_->setAccessibleName(localizedSentence(Scrolls[static_cast<std::size_t>(row)].label));
-    field_->setAccessibleDescription(rangeText(row));
-    field_->setText(typed.isEmpty() ? valueText(row, slider->value()) : typed);
-    field_->setGeometry(fieldPlace(*valueView, *field_));
-    field_->installEventFilter(this);
-    connect(field_, &QLineEdit::textEdited, this, [this] { field_->setPalette(QPalette()); });
+    makeField(typed);
+    watchOutside();
     field_->show();
     field_->setFocus(Qt::OtherFocusReason);
     if (typed.isEmpty()) {
@@ -77,6 +72,43 @@ void ValueEditor::open(QSlider *slider, QWidget *valueView, int row, const QStri
     } else {
         field_->deselect();
         field_->end(false);
+    }
+}
+
+void ValueEditor::makeField(const QString &typed)
+{
+    field_ = new QLineEdit(valueView_->parentWidget());
+    setTagOf(field_, kNoControl);
+    field_->setAlignment(Qt::AlignRight);
+    field_->setAccessibleName(localizedSentence(Scrolls[static_cast<std::size_t>(row_)].label));
+    field_->setAccessibleDescription(rangeText(row_));
+    field_->setText(typed.isEmpty() ? valueText(row_, slider_->value()) : typed);
+    field_->setGeometry(fieldPlace(*valueView_, *field_));
+    field_->installEventFilter(this);
+    isTyped_ = !typed.isEmpty();
+    connect(field_, &QLineEdit::textChanged, this, [this] { // also by assistive technology, which presses no key
+        isTyped_ = true;
+        field_->setPalette(QPalette());
+    });
+}
+
+void ValueEditor::watchOutside()
+{
+    // A field that is closed may live on until the next event.
+    const QLineEdit *field = field_;
+    connect(slider_, &QSlider::valueChanged, field, [this, field] {
+        if (field_ == field) {
+            drop();
+        }
+    });
+    for (QWidget *view = valueView_; view != nullptr; view = view->parentWidget()) {
+        if (const auto *tabs = qobject_cast<QTabWidget *>(view)) {
+            connect(tabs, &QTabWidget::currentChanged, field, [this, field] {
+                if (field_ == field) {
+                    finish();
+                }
+            });
+        }
     }
 }
 
@@ -129,6 +161,24 @@ void ValueEditor::finish()
     }
 }
 
+void ValueEditor::finishToSave()
+{
+    if (!field_ || take()) {
+        return;
+    }
+    close();
+    if (valueView_ && valueView_->isVisible()) { // after the focus has moved, which hides tool tips
+        QToolTip::showText(valueView_->mapToGlobal(valueView_->rect().bottomLeft()), rangeText(row_), valueView_);
+    }
+}
+
+void ValueEditor::drop()
+{
+    if (field_) {
+        close();
+    }
+}
+
 void ValueEditor::takeOrRefuse()
 {
     if (!take()) {
@@ -138,6 +188,10 @@ void ValueEditor::takeOrRefuse()
 
 bool ValueEditor::take()
 {
+    if (!isTyped_) { // the slider may have another value since
+        close();
+        return true;
+    }
     const std::optional<int> position = typedPosition(row_, field_->text());
     if (!position) {
         return false;

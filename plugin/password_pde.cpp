@@ -126,17 +126,21 @@ bool PasswordPDE::restoreValuesAndReturnError(QString *error)
         processPPDFile(context, hostPPD, path.data(), printerName.data(), callback, pluginBundle.get(),
                        RunningOn105OrLater() ? 0 : 1);
     }
+    if (settingEvents != nullptr) {
+        settingEvents->dropTyping();
+    }
     MyRestoreValues(context);
+    describeControls();
     _PDEEpilog(describe(this), "restoreValuesAndReturnError:=BOOL(YES)");
     return true;
 }
 
 bool PasswordPDE::saveValuesAndReturnError(QString *error)
 {
-    _PDEProlog(describe(this), "saveValuesAndReturnError:(%p)", static_cast<const void *>(error));
-    if (settingEvents != nullptr) {
+    if (settingEvents != nullptr) { // first, as a slider that moves logs lines of its own
         settingEvents->finishTyping();
     }
+    _PDEProlog(describe(this), "saveValuesAndReturnError:(%p)", static_cast<const void *>(error));
     if (context != nullptr) {
         MySyncTicketFromPane(context);
     }
@@ -157,6 +161,14 @@ void PasswordPDE::PPDOptionKeyValueDidChange(const QString &optionKey, const QSt
 {
     if (context != nullptr) {
         MyPPDOptionHasChanged(context, makeString(optionKey), makeString(choiceKey));
+        describeControls();
+    }
+}
+
+void PasswordPDE::describeControls() const
+{
+    if (settingEvents != nullptr) {
+        settingEvents->describeAll();
     }
 }
 

@@ -77,6 +77,8 @@ private:
     void connectOutlets(QWidget *root);
     void connectActions(QWidget *root);
     void releaseViews();
+    /// Tells assistive technology what has changed.
+    void describeControls() const;
 
     std::shared_ptr<pde::HostCallback> pdePluginCallbackObject;
     QString thePDEName;

@@ -163,6 +163,42 @@ TEST(SettingDescription, IsThereForAllControlsWhenItIsAskedForByAssistiveTechnol
     QAccessible::setActive(false);
 }
 
+TEST(SettingDescription, IsRenewedWhenTheHostChangesTheMedium)
+{
+    AlertRecorder alerts;
+    ShownPanel panel(ppdFixture("media-modes"));
+    QAccessible::setActive(true);
+    const auto isUpToDate = [&panel](const char *before) {
+        for (const SettingText &row : settingTexts) {
+            if (const QWidget *control = settingControl(*panel.context(), row.setting)) {
+                EXPECT_EQ(control->accessibleDescription(), settingDescription(*panel.context(), control));
+                EXPECT_FALSE(control->accessibleDescription().contains(QString::fromUtf8(before)));
+            }
+        }
+    };
+    choose(panel.popup(kPopMediaType), 3);
+    EXPECT_TRUE(panel.popup(kPopDithering)->accessibleDescription().contains(QStringLiteral("Media Mode 2")));
+    panel.host->mark("vornMediaType", "M6");
+    panel.panel->restoreValuesAndReturnError(nullptr);
+    isUpToDate("Media Mode 2");
+    choose(panel.popup(kPopMediaType), 2);
+    EXPECT_TRUE(panel.popup(kPopIntent)->accessibleDescription().contains(QStringLiteral("Media Mode 1")));
+    panel.panel->PPDOptionKeyValueDidChange(QStringLiteral("vornMediaType"), QStringLiteral("M6"));
+    isUpToDate("Media Mode 1");
+    QAccessible::setActive(false);
+}
+
+TEST(SettingDescription, LeavesWhatTheHostSaysOfTheView)
+{
+    ShownPanel panel(samplePPD());
+    QAccessible::setActive(true);
+    panel.panel->contentView()->setAccessibleDescription(QStringLiteral("The host's own"));
+    panel.panel->contentView()->setEnabled(false);
+    panel.panel->contentView()->setEnabled(true);
+    EXPECT_EQ(panel.panel->contentView()->accessibleDescription(), QStringLiteral("The host's own"));
+    QAccessible::setActive(false);
+}
+
 TEST(SettingDescription, IsWhatsThisAsWell)
 {
     ShownPanel panel(samplePPD());

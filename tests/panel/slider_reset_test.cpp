@@ -111,6 +111,21 @@ TEST_F(SliderReset, IsOfferedInTheMenuWithTheDefault)
     EXPECT_NE(openField(panel), nullptr);
 }
 
+TEST_F(SliderReset, LeavesASliderAloneThatIsDisabledWhileTheMenuIsOpen)
+{
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), panel.slider(0)->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(panel.slider(0), &event);
+    auto *menu = panel.slider(0)->findChild<QMenu *>();
+    ASSERT_NE(menu, nullptr);
+    panel.slider(0)->setEnabled(false);
+    for (QAction *action : menu->actions()) {
+        action->trigger();
+    }
+    EXPECT_EQ(panel.slider(0)->value(), 4);
+    EXPECT_FALSE(panel.slider(0)->isEnabled());
+    EXPECT_EQ(openField(panel), nullptr);
+}
+
 TEST_F(SliderReset, LeavesADisabledSliderAlone)
 {
     panel.slider(0)->setEnabled(false);

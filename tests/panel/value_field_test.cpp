@@ -4,7 +4,7 @@
 // The field for a value: how it opens, what Return, Escape and leaving it do, and that nothing else meets it.
 
 #include "platform/view_tags.h"
-#include "tests/panel/setting_test_support.h"
+#include "tests/panel/value_field.h"
 
 #include <QShortcut>
 
@@ -12,26 +12,6 @@
 
 namespace tessarin::test {
 namespace {
-
-class ValueField : public testing::Test {
-protected:
-    ValueField() : panel(samplePPD())
-    {
-        panel.window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&panel.window));
-        panel.slider(0)->setFocus();
-        log.clear();
-    }
-
-    /// Types into the field as it is.
-    void type(const char *text) { QTest::keyClicks(openField(panel), QString::fromUtf8(text)); }
-    void press(Qt::Key key) { QTest::keyClick(openField(panel), key); }
-
-    StableAddresses addresses;
-    AlertRecorder alerts;
-    CapturedLog log;
-    ShownPanel panel;
-};
 
 TEST_F(ValueField, OpensWithTheDigitsThatArePressed)
 {
@@ -75,6 +55,14 @@ TEST_F(ValueField, OpensByADoubleClickOnTheValueText)
     press(Qt::Key_Return);
     EXPECT_EQ(panel.slider(1)->value(), -10);
     EXPECT_EQ(panel.slider(0)->value(), 0);
+}
+
+TEST_F(ValueField, LeavesTheOtherMouseButtonsToTheValueText)
+{
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseDClick(panel.sliderText(1), button);
+        EXPECT_EQ(openField(panel), nullptr) << button;
+    }
 }
 
 TEST_F(ValueField, TakesASign)
@@ -155,14 +143,6 @@ TEST_F(ValueField, StaysWhenItIsLeftWithAValueThatIsRefused)
     EXPECT_EQ(openField(panel), nullptr) << "what is refused does not stand beside settings that are saved";
 }
 
-TEST_F(ValueField, TakesTheValueWhenTheSettingsAreSaved)
-{
-    QTest::keyClick(panel.slider(0), Qt::Key_1);
-    type("50");
-    EXPECT_EQ(handedOver(panel).at("vornBrightness"), "25");
-    EXPECT_EQ(openField(panel), nullptr);
-}
-
 TEST_F(ValueField, IsNotOpenedForADisabledSlider)
 {
     panel.slider(0)->setEnabled(false);
@@ -184,24 +164,6 @@ TEST_F(ValueField, IsFoundByNoTagAndGoneWhenClosed)
     press(Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(page->findChildren<QWidget *>(), controls);
-}
-
-TEST_F(ValueField, EndsWithThePanel)
-{
-    QTest::keyClick(panel.slider(0), Qt::Key_1);
-    const QPointer<QLineEdit> field = openField(panel);
-    panel.plugIn.reset();
-    panel.panels.reset();
-    EXPECT_TRUE(field.isNull());
-}
-
-TEST_F(ValueField, MayGoWithAViewThatTheHostDeletes)
-{
-    QTest::keyClick(panel.slider(0), Qt::Key_1);
-    const QPointer<QLineEdit> field = openField(panel);
-    delete panel.panel->contentView();
-    EXPECT_TRUE(field.isNull());
-    EXPECT_EQ(handedOver(panel).at("vornBrightness"), "0");
 }
 
 } // namespace
