@@ -3,6 +3,7 @@
 
 #include "platform/accessible_choices.h"
 
+#include "platform/accessible_reach.h"
 #include "platform/accessible_views.h"
 
 #include <QAbstractItemView>
@@ -20,6 +21,29 @@ bool canBeSeen(const PopUpButton &popup, int row)
 QModelIndex indexOf(const PopUpButton &popup, int row)
 {
     return popup.model()->index(row, popup.modelColumn(), popup.rootModelIndex());
+}
+
+bool hasChoice(const PopUpButton *popup, int row)
+{
+    return popup != nullptr && row < popup->count() && canBeSeen(*popup, row);
+}
+
+bool isEnabledChoice(const PopUpButton *popup, int row)
+{
+    return hasChoice(popup, row) && (indexOf(*popup, row).flags() & Qt::ItemIsEnabled) != 0;
+}
+
+/// Chooses as a person does. What hears of it may take the pop-up away.
+void choose(const QPointer<PopUpButton> &popup, int row, const QString &text)
+{
+    popup->hidePopup();
+    popup->setCurrentIndex(row);
+    if (popup) {
+        emit popup->activated(row);
+    }
+    if (popup) {
+        emit popup->textActivated(text);
+    }
 }
 
 } // namespace
@@ -108,7 +132,7 @@ QAccessible::State AccessibleChoiceList::state() const
 {
     QAccessible::State state;
     state.offscreen = popup_.isNull() || openListOf(popup_) == nullptr;
-    state.disabled = popup_.isNull() || !popup_->isEnabled();
+    state.disabled = popup_.isNull() || !isWithinReach(popup_);
     return state;
 }
 
@@ -118,12 +142,12 @@ AccessibleChoice::AccessibleChoice(PopUpButton *popup, const AccessibleChoiceLis
 
 bool AccessibleChoice::isValid() const
 {
-    return popup_ && row_ < popup_->count() && canBeSeen(*popup_, row_);
+    return hasChoice(popup_, row_);
 }
 
 bool AccessibleChoice::canBeChosen() const
 {
-    return isValid() && popup_->isEnabled() && (indexOf(*popup_, row_).flags() & Qt::ItemIsEnabled) != 0;
+    return isEnabledChoice(popup_, row_) && isWithinReach(popup_);
 }
 
 void *AccessibleChoice::interface_cast(QAccessible::InterfaceType type)
@@ -175,14 +199,11 @@ void AccessibleChoice::doAction(const QString &name)
     // Later: what a choice brings about may ask the person, and whoever pressed does not wait for the answer.
     QMetaObject::invokeMethod(
         popup_,
-        [popup = popup_.data(), row = row_, text = popup_->itemText(row_)] {
-            if (popup->itemText(row) != text) {
-                return; // the choices have changed since
+        [popup = popup_, row = row_, text = popup_->itemText(row_)] {
+            // The choices may have changed since, or another press has brought up a question.
+            if (isEnabledChoice(popup, row) && popup->itemText(row) == text && canBeUsedNow(popup)) {
+                choose(popup, row, text);
             }
-            popup->hidePopup();
-            popup->setCurrentIndex(row);
-            emit popup->activated(row);
-            emit popup->textActivated(text);
         },
         Qt::QueuedConnection);
 }

@@ -4,6 +4,7 @@
 #include "platform/accessible_popup.h"
 
 #include "platform/accessible_choices.h"
+#include "platform/accessible_reach.h"
 #include "platform/accessible_views.h"
 
 namespace tessarin {
@@ -45,6 +46,7 @@ QString AccessiblePopUp::text(QAccessible::Text kind) const
 QAccessible::State AccessiblePopUp::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
+    state.disabled = !isWithinReach(popup());
     state.expandable = true;
     state.expanded = openListOf(popup()) != nullptr;
     state.hasPopup = true;
@@ -53,8 +55,8 @@ QAccessible::State AccessiblePopUp::state() const
 
 QStringList AccessiblePopUp::actionNames() const
 {
-    return popup()->isEnabled() ? QAccessibleWidget::actionNames() << showMenuAction() << pressAction()
-                                : QStringList();
+    return isWithinReach(popup()) ? QAccessibleWidget::actionNames() << showMenuAction() << pressAction()
+                                  : QStringList();
 }
 
 void AccessiblePopUp::doAction(const QString &name)
@@ -63,7 +65,7 @@ void AccessiblePopUp::doAction(const QString &name)
         QAccessibleWidget::doAction(name);
     } else if (openListOf(popup()) != nullptr) {
         popup()->hidePopup();
-    } else if (popup()->isEnabled()) {
+    } else if (canBeUsedNow(popup())) {
         popup()->showPopup();
     }
 }

@@ -3,6 +3,8 @@
 
 #include "platform/accessible_slider.h"
 
+#include "platform/accessible_reach.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -70,10 +72,17 @@ QString AccessibleSlider::text(QAccessible::Text kind) const
     }
 }
 
+QAccessible::State AccessibleSlider::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.disabled = !isWithinReach(slider());
+    return state;
+}
+
 QStringList AccessibleSlider::actionNames() const
 {
     QStringList names = QAccessibleWidget::actionNames();
-    if (slider()->isEnabled()) {
+    if (isWithinReach(slider())) {
         names << increaseAction() << decreaseAction();
     }
     return names;
@@ -85,7 +94,7 @@ void AccessibleSlider::doAction(const QString &name)
         QAccessibleWidget::doAction(name);
         return;
     }
-    if (slider()->isEnabled()) {
+    if (canBeUsedNow(slider())) {
         const bool rises = numberAt(slider()->maximum()) >= numberAt(slider()->minimum());
         slider()->triggerAction((name == increaseAction()) == rises ? QAbstractSlider::SliderSingleStepAdd
                                                                     : QAbstractSlider::SliderSingleStepSub);
@@ -101,7 +110,7 @@ void AccessibleSlider::setCurrentValue(const QVariant &value)
 {
     bool isNumber = false;
     const double wanted = value.toDouble(&isNumber);
-    if (!isNumber || !slider()->isEnabled()) {
+    if (!isNumber || !canBeUsedNow(slider())) {
         return;
     }
     int nearest = slider()->minimum();

@@ -53,6 +53,7 @@ public:
     explicit TabView(QWidget *parent = nullptr);
 
     void setShouldSelect(ShouldSelectTab shouldSelect);
+    bool maySelect(int position) const { return bar_->maySelect(position); }
     /// The identifier of the tab at a position; a null string when it has none or there is no such tab.
     QString identifier(int position) const;
     void setIdentifier(int position, const QString &identifier);

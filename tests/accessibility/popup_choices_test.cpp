@@ -8,6 +8,8 @@
 #include "tests/accessibility/accessible_support.h"
 #include "tests/support/panel_session.h"
 
+#include <QDialog>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -35,6 +37,14 @@ protected:
     {
         choice->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QTest::qWait(0);
+    }
+
+    /// Asks for a press, which comes about once the program is idle.
+    static void askFor(QWidget *popup, int row)
+    {
+        QAccessibleInterface *one = choice(popup, static_cast<QComboBox *>(popup)->itemText(row));
+        ASSERT_NE(one, nullptr);
+        one->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
 
     PanelSession session;
@@ -98,6 +108,51 @@ TEST_F(PopUpChoices, AreThoseThatCanBeReached)
     EXPECT_TRUE(other->actionInterface()->actionNames().isEmpty());
     press(other);
     EXPECT_EQ(media->currentIndex(), now);
+}
+
+TEST_F(PopUpChoices, AreThoseThatCanBeReachedWhenThePressComesAbout)
+{
+    QComboBox *media = session.popup(kPopMediaType);
+    const int now = media->currentIndex();
+    const int row = now == 3 ? 4 : 3;
+    QSignalSpy activated(media, &QComboBox::activated);
+    askFor(media, row);
+    media->setEnabled(false);
+    QTest::qWait(0);
+    media->setEnabled(true);
+    askFor(media, row);
+    media->setItemData(row, true, kItemHiddenRole);
+    QTest::qWait(0);
+    EXPECT_EQ(media->currentIndex(), now);
+    EXPECT_EQ(activated.count(), 0);
+}
+
+TEST_F(PopUpChoices, WaitForNoQuestionThatAnotherPressBringsAbout)
+{
+    QComboBox *media = session.popup(kPopMediaType);
+    int questions = 0;
+    QObject::connect(media, &QComboBox::activated, media, [&questions, media] {
+        ++questions;
+        QDialog question(media->window());
+        question.setModal(true);
+        question.show();
+        QTest::qWait(0); // the other press has its turn
+    });
+    askFor(media, 3);
+    askFor(media, 4);
+    QTest::qWait(0);
+    EXPECT_EQ(media->currentIndex(), 3);
+    EXPECT_EQ(questions, 1);
+}
+
+TEST_F(PopUpChoices, MayTakeThePopUpAway)
+{
+    const QPointer<PopUpButton> media(qobject_cast<PopUpButton *>(session.popup(kPopMediaType)));
+    ASSERT_NE(media, nullptr);
+    QObject::connect(media, &QComboBox::activated, media, [media] { delete media.data(); });
+    askFor(media, media->currentIndex() == 3 ? 4 : 3);
+    QTest::qWait(0);
+    EXPECT_EQ(media, nullptr);
 }
 
 TEST_F(PopUpChoices, OpenTheListOnDemand)
