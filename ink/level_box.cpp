@@ -8,6 +8,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tessarin {
 
 namespace {
@@ -31,8 +33,9 @@ void LevelBox::setLevel(int level)
 {
     level_ = level;
     update();
-    if (QAccessible::isActive()) { // else the toolkit would look for what nobody reads
-        QAccessibleValueChangeEvent change(this, level);
+    const bool isShown = level >= 0 && !isHidden(); // not so the rows without a channel
+    if (isShown && QAccessible::isActive()) {       // else the toolkit would look for what nobody reads
+        QAccessibleValueChangeEvent change(this, std::min(level, 100));
         QAccessible::updateAccessibility(&change);
     }
 }

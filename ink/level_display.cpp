@@ -154,7 +154,9 @@ void fillBox(PanelContext *context, const InkBox &box, const InkSums &sums, bool
         SetControlVisibility(box.values[row], level >= 0);
         showBar(box.bars[row], inklevels[place], line, level);
         showName(box.names[row], inklevels[place], line, level);
-        announceText(box.bars[row]);
+        if (level >= 0) {
+            announceText(box.bars[row]);
+        }
         cursor += cursor < kInkChannelCount ? 1 : 0;
     }
 }

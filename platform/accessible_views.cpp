@@ -49,7 +49,7 @@ public:
         state.readOnly = true;
         return state;
     }
-    QVariant currentValue() const override { return view_->level(); }
+    QVariant currentValue() const override { return std::clamp(view_->level(), 0, 100); }
     void setCurrentValue(const QVariant &) override {} // the printer's to say
     QVariant maximumValue() const override { return 100; }
     QVariant minimumValue() const override { return 0; }

@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace tessarin::test {
 namespace {
 
@@ -71,6 +73,20 @@ TEST_F(InkReading, TellsTheBoxes)
     }
 }
 
+TEST_F(InkReading, KeepsLevelsWithinTheirBounds)
+{
+    setCounters(0, 1200, 1'500'000);
+    SetInkValues(session_.context());
+    auto *bar = dynamic_cast<LevelView *>(session_.context()->controls.totalInkBars[0].data());
+    ASSERT_NE(bar, nullptr);
+    QAccessibleInterface *read = QAccessible::queryAccessibleInterface(bar);
+    EXPECT_EQ(read->valueInterface()->currentValue().toInt(), 100);
+    EXPECT_EQ(read->text(QAccessible::Value), QStringLiteral("150%"));
+    EXPECT_EQ(read->text(QAccessible::Description), QStringLiteral("1500 (150%)"));
+    bar->setLevel(-1);
+    EXPECT_EQ(read->valueInterface()->currentValue().toInt(), 0);
+}
+
 TEST_F(InkReading, CannotBeSetFromOutside)
 {
     for (QObject *child : boxNamed("lastConsumptionBox")->children()) {
@@ -78,7 +94,7 @@ TEST_F(InkReading, CannotBeSetFromOutside)
             const int level = bar->level();
             QAccessibleInterface *read = QAccessible::queryAccessibleInterface(bar);
             EXPECT_TRUE(read->state().readOnly);
-            EXPECT_EQ(read->valueInterface()->currentValue().toInt(), level);
+            EXPECT_EQ(read->valueInterface()->currentValue().toInt(), std::clamp(level, 0, 100));
             read->valueInterface()->setCurrentValue(level + 1);
             EXPECT_EQ(bar->level(), level);
         }
