@@ -6,10 +6,14 @@
 read_dialog.py <tessarin-print> <folder> <PPD with ink counters>
 """
 
+import base64
 import os
+import re
+import shutil
 import subprocess
 import sys
 import time
+import zlib
 
 import gi
 
@@ -17,6 +21,29 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 60.0  # seconds for what must come
+# Every slider: page, name, what is shown at first and at its greatest number, the least and the greatest number.
+SLIDERS = (
+    ("General", "Brightness", "100%", "200%", 50, 200),
+    ("General", "Contrast", "100%", "200%", 50, 200),
+    ("Color", "Reference Light", "D65", "D80", 50, 80),
+    ("Color", "Color Gamut", "100%", "200%", 50, 200),
+    ("Color", "Shadows", "100%", "200%", 50, 200),
+    ("Color", "Greytone A", "+0", "+50", -50, 50),
+    ("Color", "Greytone B", "+0", "+50", -50, 50),
+    ("Correction", "Black", "0%", "50%", -50, 50),
+    ("Correction", "Cyan", "0%", "50%", -50, 50),
+    ("Correction", "Magenta", "0%", "50%", -50, 50),
+    ("Correction", "Yellow", "0%", "50%", -50, 50),
+    ("Ink Usage", "Black Usage (UCR)", "50%", "100%", 0, 100),
+    ("Ink Usage", "Bright Cyan Usage", "50%", "100%", 0, 100),
+    ("Ink Usage", "Usage Bright Magenta", "50%", "100%", 0, 100),
+    ("Ink Usage", "Total Ink Maximum", "300%", "400%", 200, 400),
+    ("Ink Limits", "Ink-Intensity", "0%", "80%", 0, 80),
+    ("Ink Limits", "Ink-Limit Black", "100%", "200%", 50, 200),
+    ("Ink Limits", "Ink-Limit Cyan", "100%", "200%", 50, 200),
+    ("Ink Limits", "Ink-Limit Magenta", "100%", "200%", 50, 200),
+    ("Ink Limits", "Ink-Limit Yellow", "100%", "200%", 50, 200),
+)
 problems = []
 
 
@@ -132,35 +159,65 @@ def check_names(window, page):
         wrong(f"{page}: only {reached} controls")
 
 
-def listen():
-    """From now on: a question whether the bus has told that something of a node changed."""
-    heard = []
-    listener = Atspi.EventListener.new(lambda event: heard.append((event.source, event.type)))
-    for change in ("accessible-value", "accessible-description"):
-        listener.register(f"object:property-change:{change}")
+class Listener:
+    """Hears that something of a node changed. There before a dialog opens, as a screen reader is."""
 
-    def told(node, change):
-        assert listener  # which would stop to listen when it goes
+    def __init__(self):
+        self.heard = []
+        self.listener = Atspi.EventListener.new(lambda event: self.heard.append((event.source, event.type)))
+        for change in ("accessible-value", "accessible-description"):
+            self.listener.register(f"object:property-change:{change}")
+
+    def take(self):
         while GLib.MainContext.default().iteration(False):
             pass
-        return any(source == node and kind.endswith(f":{change}") for source, kind in heard)
+        return self.heard
 
-    return told
+    def forget(self):
+        self.take().clear()
+
+    def told(self, node, change):
+        return any(source == node and kind.endswith(f":{change}") for source, kind in self.take())
+
+    def wait(self, node, *changes):
+        for change in changes:
+            wait_for(f"told of {change} of {node.get_name()}", lambda: self.told(node, change))
 
 
-def check_slider(window):
+def number(text):
+    return float(re.search(r"[+-]?[0-9]+", text)[0])
+
+
+def check_sliders(window, listener):
+    """Every slider reads as it is shown, and moves."""
+    for page in dict.fromkeys(row[0] for row in SLIDERS):
+        show_tab(window, page)
+        here = [row for row in SLIDERS if row[0] == page]
+        for _, name, first, last, least, most in here:
+            slider = find(window, Atspi.Role.SLIDER, name)
+            value = slider.get_value_iface()
+            expect(f"{name} at first", Atspi.Value.get_current_value(value), number(first))
+            expect(f"the text of {name} at first", slider.get_description().partition("; ")[0], first)
+            expect(f"the least {name}", Atspi.Value.get_minimum_value(value), float(least))
+            expect(f"the most {name}", Atspi.Value.get_maximum_value(value), float(most))
+            for text in (last, first):
+                listener.forget()
+                Atspi.Value.set_current_value(value, number(text))
+                listener.wait(slider, "accessible-value", "accessible-description")
+                expect(name, Atspi.Value.get_current_value(value), number(text))
+                expect(f"the text of {name}", slider.get_description().partition("; ")[0], text)
+                if not any(n.get_name() == text and is_shown(n) for n in everything(window)):
+                    wrong(f"{name}: {text} is not shown")
+        sliders = [n.get_name() for n in everything(window) if n.get_role() == Atspi.Role.SLIDER and is_shown(n)]
+        expect(f"the sliders of the page {page}", sorted(sliders), sorted(row[1] for row in here))
+
+
+def check_slider(window, listener):
     brightness = find(window, Atspi.Role.SLIDER, "Brightness")
     value = brightness.get_value_iface()
-    expect("brightness at first", Atspi.Value.get_current_value(value), 100.0)
-    expect("its text at first", brightness.get_description().partition("; ")[0], "100%")
-    expect("least", Atspi.Value.get_minimum_value(value), 50.0)
-    expect("most", Atspi.Value.get_maximum_value(value), 200.0)
-    told = listen()
-    Atspi.Value.set_current_value(value, 95.0)
-    for change in ("accessible-value", "accessible-description"):
-        wait_for(f"told of {change}", lambda: told(brightness, change))
-    wait_for("the description follows", lambda: brightness.get_description().startswith("95%"))
-    wait_for("the value text follows", lambda: any(n.get_name() == "95%" for n in everything(window)))
+    listener.forget()
+    Atspi.Value.set_current_value(value, 94.0)  # the nearest is taken
+    listener.wait(brightness, "accessible-value", "accessible-description")
     expect("brightness", Atspi.Value.get_current_value(value), 95.0)
     press(brightness, "Decrease")
     wait_for("a step down", lambda: Atspi.Value.get_current_value(value) == 90.0)
@@ -190,26 +247,57 @@ def check_reasons(window, tab):
     return len(disabled)
 
 
+def bars_of(window, box):
+    bars = children(find(window, Atspi.Role.PANEL, box))
+    return [n for n in bars if n.get_role() == Atspi.Role.PROGRESS_BAR and is_shown(n)]
+
+
 def check_ink(window):
-    boxes = [find(window, Atspi.Role.PANEL, name) for name in ("Last Job", "All Jobs")]
-    for box in boxes:
-        bars = [n for n in children(box) if n.get_role() == Atspi.Role.PROGRESS_BAR and is_shown(n)]
+    for box in ("Last Job", "All Jobs"):
+        bars = bars_of(window, box)
         if not bars:
-            wrong(f"{box.get_name()}: no bars")
+            wrong(f"{box}: no bars")
         for bar in bars:
             level = f"{Atspi.Value.get_current_value(bar.get_value_iface()):g}%"
             if not bar.get_name() or not bar.get_description().endswith(f" ({level})"):
                 wrong(f"bar {bar.get_name()!r} at {level}: {bar.get_description()!r}")
 
 
-def use_dialog(program, folder):
+def write_counters(ppd, counters):
+    """Puts other counters into a PPD."""
+    data = base64.b64encode(zlib.compress(counters.encode())).decode()
+    with open(ppd, encoding="latin-1") as file:
+        text, count = re.subn(r'(?m)^\*EXData0000: ".*"$', f'*EXData0000: "{data}"', file.read())
+    expect("places of counters", count, 1)
+    with open(ppd, "w", encoding="latin-1") as file:
+        file.write(text)
+
+
+def check_reload(window, listener, ppd):
+    """Reading the counters anew is told of the bars that are shown, and of no others."""
+    write_counters(ppd, "LastInk_K=500\nTotalInk_K=1500000\nLastInk_Y=250\nTotalInk_Y=100000\n")
+    listener.forget()
+    press(find(window, Atspi.Role.PUSH_BUTTON, "Reload"))
+    shown = bars_of(window, "Last Job") + bars_of(window, "All Jobs")
+    for bar in shown:
+        listener.wait(bar, "accessible-value", "accessible-description")
+    black, yellow = bars_of(window, "All Jobs")
+    expect("black", black.get_description(), "1500 (150%)")
+    expect("the level of black", Atspi.Value.get_current_value(black.get_value_iface()), 100.0)
+    expect("the level of yellow", Atspi.Value.get_current_value(yellow.get_value_iface()), 10.0)
+    others = [s for s, _ in listener.take() if s.get_role() == Atspi.Role.PROGRESS_BAR and s not in shown]
+    expect("told of bars that are not shown", len(others), 0)
+
+
+def use_dialog(program, folder, listener):
     dialog, window, ticket, log = open_dialog(program, folder, "--sample")
     try:
         for tab in ("General", "Color", "Correction", "Ink Consumption", "Ink Usage", "Ink Limits"):
             show_tab(window, tab)
             check_names(window, tab)
+        check_sliders(window, listener)
         show_tab(window, "General")
-        check_slider(window)
+        check_slider(window, listener)
         choose(window, "Media Type", "Coated Matte 120 g")
         if not check_reasons(window, "Ink Usage"):
             wrong("nothing on the page Ink Usage is disabled")
@@ -233,11 +321,13 @@ def use_dialog(program, folder):
             wrong("no event of the pop-up reached the panel")
 
 
-def read_ink(program, folder, ppd):
+def read_ink(program, folder, listener, fixture):
+    ppd = shutil.copy(fixture, folder)
     dialog, window, _, _ = open_dialog(program, folder, "--ppd", ppd)
     try:
         show_tab(window, "Ink Consumption")
         check_ink(window)
+        check_reload(window, listener, ppd)
         press(find(window, Atspi.Role.PUSH_BUTTON, "Cancel"))
         expect("exit status", dialog.wait(PATIENCE), 1)
     finally:
@@ -245,8 +335,9 @@ def read_ink(program, folder, ppd):
         dialog.wait()
 
 
-use_dialog(sys.argv[1], sys.argv[2])
-read_ink(sys.argv[1], sys.argv[2], sys.argv[3])
+listener = Listener()
+use_dialog(sys.argv[1], sys.argv[2], listener)
+read_ink(sys.argv[1], sys.argv[2], listener, sys.argv[3])
 for problem in problems:
     print("FAILED:", problem)
 sys.exit(1 if problems else 0)
