@@ -14,6 +14,12 @@
 
 namespace tessarin::host {
 
+namespace {
+
+constexpr int kNameLength = 40; // characters that there is room for
+
+} // namespace
+
 SavePresetDialog::SavePresetDialog(std::shared_ptr<OpenPrinter> printer, const QStringList &names, QWidget *parent)
     : QDialog(parent), printer_(std::move(printer)), names_(names), name_(new QLineEdit(this)),
       general_(new QCheckBox(TessarinPrint::tr("Paper and &layout"), this)),
@@ -25,6 +31,7 @@ SavePresetDialog::SavePresetDialog(std::shared_ptr<OpenPrinter> printer, const Q
     auto *caption = new QLabel(TessarinPrint::tr("&Name:"), this);
     caption->setBuddy(name_);
     name_->setObjectName(QStringLiteral("presetName"));
+    name_->setMinimumWidth(kNameLength * fontMetrics().averageCharWidth());
     auto *keeps = new QLabel(TessarinPrint::tr("The preset keeps:"), this);
     problem_->setTextFormat(Qt::PlainText);
     problem_->setWordWrap(true);
@@ -86,6 +93,16 @@ void SavePresetDialog::check()
                       : replaces()      ? TessarinPrint::tr("This replaces the preset of the same name.")
                                         : QString());
     save_->setEnabled(!name().isEmpty() && wrong.isEmpty() && keepsSomething);
+    makeRoom();
+}
+
+void SavePresetDialog::makeRoom()
+{
+    layout()->activate();
+    const int needed = layout()->totalHeightForWidth(width());
+    if (isVisible() && needed > height()) {
+        resize(width(), needed); // a window does not grow of itself with a text of several lines
+    }
 }
 
 } // namespace tessarin::host

@@ -36,6 +36,7 @@ public:
 
 private:
     void check();
+    void makeRoom();
 
     std::shared_ptr<OpenPrinter> printer_;
     QStringList names_;

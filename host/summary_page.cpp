@@ -74,7 +74,9 @@ void SummaryPage::makeTree()
     tree_->setUniformRowHeights(true);
     tree_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    tree_->header()->setStretchLastSection(true);
+    // The last one is no narrower either when there is no room: what is out of sight can be scrolled to.
+    tree_->header()->setStretchLastSection(false);
+    tree_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     tree_->installEventFilter(this);
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
         const bool any = !resettableKeys().isEmpty();

@@ -4,6 +4,7 @@
 // In every language, at the usual font and at a larger one, each text of the dialog has the room that it needs,
 // also on a small screen.
 
+#include "printing/text.h"
 #include "tests/screens/dialog_fixture.h"
 #include "tests/screens/text_fit.h"
 
@@ -19,7 +20,8 @@ constexpr QSize kFrame(16, 40); // what the window manager adds
 
 class DialogTextsFit : public testing::TestWithParam<std::tuple<std::string, int>> {
 protected:
-    void expectFit(WholeDialog &whole)
+    /// `isRoomy`: no row has to be scrolled sideways.
+    void expectFit(WholeDialog &whole, bool isRoomy)
     {
         int pages = 0;
         whole.eachPage([&](const std::string &page) {
@@ -27,6 +29,7 @@ protected:
             const TextFit fit = textFit(whole.dialog.get());
             EXPECT_GT(fit.texts, 10) << page;
             EXPECT_TRUE(fit.faults.isEmpty()) << page << ":\n" << fit.faults.join(u'\n').toStdString();
+            EXPECT_TRUE(!isRoomy || fit.aside.isEmpty()) << page << ":\n" << fit.aside.join(u'\n').toStdString();
         });
         EXPECT_EQ(pages, 9);
     }
@@ -41,7 +44,9 @@ TEST_P(DialogTextsFit, AtItsOwnSize)
     whole_.dialog->setAttribute(Qt::WA_DontShowOnScreen); // no screen cuts it short
     whole_.dialog->resize(whole_.dialog->sizeHint());
     whole_.dialog->show();
-    expectFit(whole_);
+    expectFit(whole_, true);
+    whole_.changeSome(); // the summary's notes are longer then
+    expectFit(whole_, false);
 }
 
 TEST_P(DialogTextsFit, OnASmallScreen)
@@ -50,9 +55,13 @@ TEST_P(DialogTextsFit, OnASmallScreen)
     const QSize room = kSmallScreen - kFrame;
     whole_.dialog->setAttribute(Qt::WA_DontShowOnScreen);
     whole_.dialog->show();
-    whole_.dialog->notice()->tell(QStringLiteral("A notice"), {{QStringLiteral("Undo"), [] {}}});
+    whole_.changeSome();
+    whole_.dialog->notice()->tell(
+        host::TessarinPrint::tr("There are no printers. Choose another destination from the list above, or add a "
+                                "printer in the system's settings and look again."),
+        {{host::TessarinPrint::tr("&Undo"), [] {}}});
     whole_.dialog->resize(whole_.dialog->sizeHint().boundedTo(room));
-    expectFit(whole_);
+    expectFit(whole_, false);
     EXPECT_LE(whole_.dialog->width(), room.width());
     EXPECT_LE(whole_.dialog->height(), room.height());
 }

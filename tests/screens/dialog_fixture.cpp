@@ -4,6 +4,8 @@
 #include "tests/screens/dialog_fixture.h"
 
 #include "printing/text.h"
+#include "settings/conflicts.h"
+#include "settings/option_catalogue.h"
 
 #include <QApplication>
 
@@ -41,7 +43,10 @@ WholeDialog::WholeDialog(const std::string &language) : translation_(QString::fr
         .printer = printer.value(),
         .wanted = choice,
         .documentPaths = {source + QStringLiteral("/LICENSE"), source + QStringLiteral("/CHANGELOG.md")},
-        .documentNames = {QStringLiteral("LICENSE"), QStringLiteral("CHANGELOG.md")}});
+        .documentNames = {QStringLiteral("LICENSE"), QStringLiteral("CHANGELOG.md")},
+        .makeDelivery = [](const HostPrinter & /*printer*/, bool /*separateJobs*/) {
+            return std::make_unique<TicketDelivery>(QStringLiteral("/no such folder/ticket"));
+        }});
     problem = dialog->panelProblem();
 }
 
@@ -62,6 +67,23 @@ void WholeDialog::eachPage(const std::function<void(const std::string &name)> &v
             visit("panel page " + std::to_string(tab));
         }
     }
+}
+
+void WholeDialog::changeSome()
+{
+    const JobSettings &settings = dialog->openPrinter()->settings();
+    KeyValues changes;
+    for (const QString &key : settings.optionKeys()) {
+        for (const CatalogueChoice &choice : catalogueOption(settings.printer(), key).choices) {
+            const bool isOther = choice.choice != settings.value(key);
+            if (isOther && conflictsOf(settings.printer(), key, choice.choice).isEmpty()) {
+                changes << KeyValue{.key = key, .value = choice.choice};
+                break;
+            }
+        }
+    }
+    dialog->applyValues(changes);
+    QApplication::processEvents();
 }
 
 } // namespace tessarin::test

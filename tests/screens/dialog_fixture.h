@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The whole print dialog with the real panel on the sample printer, in one language.
+// The whole print dialog with the real panel on the sample printer, in one language. Print fails.
 
 #ifndef TESSARIN_TESTS_SCREENS_DIALOG_FIXTURE_H
 #define TESSARIN_TESTS_SCREENS_DIALOG_FIXTURE_H
@@ -31,6 +31,8 @@ public:
 
     /// Shows each page of the dialog, and each of the panel that may be selected, and calls `visit` with its name.
     void eachPage(const std::function<void(const std::string &name)> &visit);
+    /// Sets some options to something else than their defaults, as far as they go together.
+    void changeSome();
     QTabWidget *tabs() const { return dialog->panelView()->findChild<QTabWidget *>(); }
 
 private:

@@ -13,9 +13,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QTabBar>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -37,6 +39,7 @@ private:
     void compareTabs(const QTabBar &bar);
     void compareGroup(const QGroupBox &group);
     void compareList(const QListWidget &list);
+    void compareTree(const QTreeView &tree);
     void compareHeader(const QHeaderView &header);
     void lookForOverlaps(const QWidget *view);
 };
@@ -150,6 +153,35 @@ void Fitter::compareList(const QListWidget &list)
     }
 }
 
+/// All rows and columns, those below the visible ones included. A column that is as wide as its texts but not
+/// wholly in sight cuts nothing, where there is a bar to scroll with.
+void Fitter::compareTree(const QTreeView &tree)
+{
+    const int widest = tree.viewport()->width();
+    for (QModelIndex row = tree.model()->index(0, 0); row.isValid(); row = tree.indexBelow(row)) {
+        const bool isSpanned = tree.isFirstColumnSpanned(row.row(), row.parent());
+        for (int column = 0; column < (isSpanned ? 1 : tree.model()->columnCount()); ++column) {
+            const QModelIndex index = row.siblingAtColumn(column);
+            const QString text = index.data().toString();
+            if (text.isEmpty()) {
+                continue;
+            }
+            const QRect cell = tree.visualRect(index);
+            const QFontMetrics metrics(index.data(Qt::FontRole).isValid() ? index.data(Qt::FontRole).value<QFont>()
+                                                                          : tree.font());
+            const QSize needed(tree.sizeHintForIndex(index).width(), metrics.height());
+            compare(text, needed, {isSpanned ? widest : cell.width(), cell.height()});
+            if (cell.left() + needed.width() > widest) {
+                result.aside << text;
+            }
+        }
+    }
+    const int hidden = tree.header()->length() - widest;
+    if (hidden > 0 && tree.horizontalScrollBar()->maximum() == 0) {
+        result.faults << QStringLiteral("%1 pixels of %2 cannot be scrolled to").arg(hidden).arg(nameOf(&tree));
+    }
+}
+
 void Fitter::compareHeader(const QHeaderView &header)
 {
     for (int section = 0; section < header.count(); ++section) {
@@ -213,6 +245,9 @@ void Fitter::look(QWidget *view)
 {
     if (!view->isVisible()) {
         return;
+    }
+    if (const auto *tree = qobject_cast<QTreeView *>(view)) {
+        compareTree(*tree);
     }
     bool isWhole = true; // what it consists of is the toolkit's
     if (const auto *label = qobject_cast<QLabel *>(view)) {

@@ -23,10 +23,11 @@ std::vector<std::string> shippedLanguages();
 struct TextFit {
     int texts = 0;        ///< texts that were compared with their places
     QStringList faults{}; ///< texts that are cut, and views that lie over others or stick out of theirs
+    QStringList aside{};  ///< whole texts of rows that are in sight only after scrolling sideways
 };
 
 /// Compares what each visible text below `view` needs with the room it has: of labels, buttons, pop-ups with all
-/// their choices, tabs, group boxes, lines of input, lists and headings of columns.
+/// their choices, tabs, group boxes, lines of input, lists, rows of tables and headings of columns.
 TextFit textFit(QWidget *view);
 
 /// A larger font for all views as long as this object is there.
