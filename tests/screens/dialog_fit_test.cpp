@@ -7,6 +7,7 @@
 #include "printing/text.h"
 #include "tests/screens/dialog_fixture.h"
 #include "tests/screens/text_fit.h"
+#include "tests/screens/variants.h"
 
 #include <gtest/gtest.h>
 

@@ -9,6 +9,7 @@
 #include "printing/text.h"
 #include "tests/screens/dialog_fixture.h"
 #include "tests/screens/text_fit.h"
+#include "tests/screens/variants.h"
 
 #include <QMessageBox>
 #include <QPushButton>

@@ -7,6 +7,7 @@
 #include "platform/tab_view.h"
 #include "plugin/diagnostics.h"
 #include "tests/screens/text_fit.h"
+#include "tests/screens/variants.h"
 #include "tests/support/panel_session.h"
 
 #include <QVBoxLayout>

@@ -4,7 +4,7 @@
 // Places of the interface file at other fonts than the one that it is drawn for.
 
 #include "platform/interface_scale.h"
-#include "tests/screens/text_fit.h"
+#include "tests/screens/variants.h"
 #include "tests/support/panel_session.h"
 
 #include <QLabel>

@@ -5,7 +5,7 @@
 // the screen in every language, at the usual font and at a larger one.
 
 #include "tests/screens/dialog_fixture.h"
-#include "tests/screens/text_fit.h"
+#include "tests/screens/variants.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>

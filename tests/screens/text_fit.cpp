@@ -7,7 +7,6 @@
 #include <QAbstractScrollArea>
 #include <QBitmap>
 #include <QComboBox>
-#include <QDir>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -287,33 +286,11 @@ void Fitter::look(QWidget *view)
 
 } // namespace
 
-std::vector<std::string> shippedLanguages()
-{
-    std::vector<std::string> codes{"en"};
-    const QDir folder(QStringLiteral(TESSARIN_TEST_BUNDLE "/translations"));
-    for (const QString &file : folder.entryList({QStringLiteral("TessarinPDE_*.qm")})) {
-        codes.push_back(file.mid(12).chopped(3).toStdString());
-    }
-    return codes;
-}
-
 TextFit textFit(QWidget *view)
 {
     Fitter fitter;
     fitter.look(view);
     return fitter.result;
-}
-
-FontScale::FontScale(int percent)
-{
-    QFont larger = before_;
-    larger.setPointSizeF(larger.pointSizeF() * percent / 100);
-    QApplication::setFont(larger);
-}
-
-FontScale::~FontScale()
-{
-    QApplication::setFont(before_);
 }
 
 } // namespace tessarin::test

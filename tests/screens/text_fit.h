@@ -6,18 +6,10 @@
 #ifndef TESSARIN_TESTS_SCREENS_TEXT_FIT_H
 #define TESSARIN_TESTS_SCREENS_TEXT_FIT_H
 
-#include <QApplication>
-#include <QFont>
 #include <QStringList>
 #include <QWidget>
 
-#include <string>
-#include <vector>
-
 namespace tessarin::test {
-
-/// "en" and every language that the panel is translated into.
-std::vector<std::string> shippedLanguages();
 
 /// What the visible part of a view shows.
 struct TextFit {
@@ -29,18 +21,6 @@ struct TextFit {
 /// Compares what each visible text below `view` needs with the room it has: of labels, buttons, pop-ups with all
 /// their choices, tabs, group boxes, lines of input, lists, rows of tables and headings of columns.
 TextFit textFit(QWidget *view);
-
-/// A larger font for all views as long as this object is there.
-class FontScale {
-public:
-    explicit FontScale(int percent);
-    ~FontScale();
-    FontScale(const FontScale &) = delete;
-    FontScale &operator=(const FontScale &) = delete;
-
-private:
-    QFont before_ = QApplication::font();
-};
 
 } // namespace tessarin::test
 

@@ -7,7 +7,7 @@
 #
 #   wayland_test.sh <tessarin-print> <case>
 #
-# Cases: print, cancel.
+# Cases: print, print-scaled (one and a half times the size), cancel.
 set -euo pipefail
 
 program=$1
@@ -32,6 +32,7 @@ said() {
 }
 
 start_display
+[ "$case" != print-scaled ] || export QT_SCALE_FACTOR=1.5
 weston --backend=x11-backend.so --use-pixman --no-config --width=1024 --height=600 --idle-time=0 --socket=test \
     >"$work/compositor.log" 2>&1 &
 wait_until "the compositor starts" test -S "$work/test"
@@ -46,11 +47,11 @@ wait_until "the window is drawn" said 'wl_surface@[0-9]+\.attach\(wl_buffer@'
 wait_until "the window takes the keyboard" said 'wl_keyboard@[0-9]+\.enter'
 
 case $case in
-print)
+print | print-scaled)
     keys alt+1                # the page General
     keys alt+c ctrl+a 3       # three copies
     keys alt+e alt+Down       # the list of paper sizes
-    wait_until "the list opens" said 'xdg_surface@[0-9]+\.get_popup'
+    wait_until "the list opens" said 'xdg_popup@[0-9]+\.grab' # a tool tip takes no input
     keys Down Return
     keys alt+2                # the panel
     keys alt+p

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The languages and sizes of the font that views are looked at in.
+
+#ifndef TESSARIN_TESTS_SCREENS_VARIANTS_H
+#define TESSARIN_TESTS_SCREENS_VARIANTS_H
+
+#include <QApplication>
+#include <QFont>
+
+#include <string>
+#include <vector>
+
+namespace tessarin::test {
+
+/// "en" and every language that the panel is translated into.
+std::vector<std::string> shippedLanguages();
+
+/// A larger font for all views as long as this object is there.
+class FontScale {
+public:
+    explicit FontScale(int percent);
+    ~FontScale();
+    FontScale(const FontScale &) = delete;
+    FontScale &operator=(const FontScale &) = delete;
+
+private:
+    QFont before_ = QApplication::font();
+};
+
+} // namespace tessarin::test
+
+#endif
