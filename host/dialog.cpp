@@ -146,15 +146,17 @@ void PrintDialog::makeFooter(QVBoxLayout *column)
     connect(buttons, &QDialogButtonBox::rejected, this, &PrintDialog::reject);
 
     auto *row = new QHBoxLayout;
-    row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
     row->addWidget(presets_);
     row->addSpacing(kSpacing);
-    row->addWidget(separate_);
     row->addWidget(status_, 1);
     row->addWidget(progress_);
     row->addWidget(buttons);
+    auto *lines = new QVBoxLayout; // two of them: in some languages one would be wider than a small screen
+    lines->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+    lines->addWidget(separate_);
+    lines->addLayout(row);
     column->addWidget(makeLine(this));
-    column->addLayout(row);
+    column->addLayout(lines);
 }
 
 QSize PrintDialog::sizeHint() const

@@ -40,10 +40,12 @@ PagesArea::PagesArea(OpenPrinter &printer, QWidget *preview, QWidget *parent)
     general_ = new GeneralPage(printer_.settings(), stack_);
     general_->setPreview(preview_);
     preview_->show();
+    auto *general = new PanelArea(stack_); // on a small screen the page is scrolled
+    general->showView(general_);
     features_ = new FeaturesPage(printer_.settings(), printer_.panelKeys(), stack_);
     summary_ = new SummaryPage(stack_);
     const QString panelName = printer_.panel().name;
-    addPage(TessarinPrint::tr("General"), QStringLiteral("generalPage"), general_);
+    addPage(TessarinPrint::tr("General"), QStringLiteral("generalPage"), general);
     addPage(panelName.isEmpty() ? TessarinPrint::tr("Printer Settings") : panelName, QStringLiteral("panelPage"),
             makePanelPage());
     addPage(TessarinPrint::tr("Printer Features"), QStringLiteral("featuresPage"), features_);

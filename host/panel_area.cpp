@@ -7,7 +7,7 @@ namespace tessarin::host {
 
 namespace {
 
-constexpr QSize kLeastSize(320, 160);
+constexpr QSize kLeastSize(320, 120);
 
 } // namespace
 

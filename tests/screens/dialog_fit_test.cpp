@@ -17,7 +17,8 @@ namespace tessarin::test {
 namespace {
 
 constexpr QSize kSmallScreen(1024, 600);
-constexpr QSize kFrame(16, 40); // what the window manager adds
+constexpr QSize kTinyScreen(683, 400); // the same at one and a half times the size
+constexpr QSize kFrame(16, 40);        // what the window manager adds
 
 class DialogTextsFit : public testing::TestWithParam<std::tuple<std::string, int>> {
 protected:
@@ -73,6 +74,33 @@ INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsFit,
                              return std::get<0>(parameters.param) + "_" +
                                     std::to_string(std::get<1>(parameters.param));
                          });
+
+class TinyScreen : public testing::TestWithParam<std::string> {};
+
+TEST_P(TinyScreen, HasRoomForTheButtons)
+{
+    WholeDialog whole(GetParam());
+    ASSERT_TRUE(whole.problem.isEmpty()) << whole.problem.toStdString();
+    const QSize room = kTinyScreen - kFrame;
+    whole.dialog->setAttribute(Qt::WA_DontShowOnScreen);
+    whole.dialog->show();
+    whole.dialog->notice()->tell(host::TessarinPrint::tr("All settings are at their defaults."),
+                                 {{host::TessarinPrint::tr("&Undo"), [] {}}});
+    whole.eachPage([&](const std::string &page) {
+        SCOPED_TRACE(page);
+        whole.dialog->resize(room);
+        EXPECT_LE(whole.dialog->width(), room.width());
+        EXPECT_LE(whole.dialog->height(), room.height());
+        for (const char *name : {"presets", "separateJobs", "print", "cancel", "noticeClose"}) {
+            const auto *button = whole.dialog->findChild<QWidget *>(QLatin1String(name));
+            ASSERT_NE(button, nullptr) << name;
+            EXPECT_EQ(button->visibleRegion(), QRegion(button->rect())) << name;
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TinyScreen, testing::ValuesIn(shippedLanguages()),
+                         [](const testing::TestParamInfo<std::string> &language) { return language.param; });
 
 } // namespace
 } // namespace tessarin::test
