@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessarin Settings authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The place of the panel in the dialog.
+// The place of the panel, or of another view that a small screen has no room for.
 
 #ifndef TESSARIN_HOST_PANEL_AREA_H
 #define TESSARIN_HOST_PANEL_AREA_H
