@@ -68,12 +68,7 @@ TEST_P(DialogTextsFit, OnASmallScreen)
     EXPECT_LE(whole_.dialog->height(), room.height());
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsFit,
-                         testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150)),
-                         [](const testing::TestParamInfo<std::tuple<std::string, int>> &parameters) {
-                             return std::get<0>(parameters.param) + "_" +
-                                    std::to_string(std::get<1>(parameters.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, DialogTextsFit, languagesAndFonts(), variantName);
 
 class TinyScreen : public testing::TestWithParam<std::string> {};
 

@@ -87,12 +87,7 @@ TEST_P(MessagesFit, AFailure)
     expectFits(*message("failure"), 5);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, MessagesFit,
-                         testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150)),
-                         [](const testing::TestParamInfo<std::tuple<std::string, int>> &parameters) {
-                             return std::get<0>(parameters.param) + "_" +
-                                    std::to_string(std::get<1>(parameters.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, MessagesFit, languagesAndFonts(), variantName);
 
 } // namespace
 } // namespace tessarin::test

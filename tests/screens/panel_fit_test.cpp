@@ -63,12 +63,7 @@ TEST_P(PanelTextsFit, OnEveryPage)
     view->setParent(nullptr);     // the panel's again
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, PanelTextsFit,
-                         testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150)),
-                         [](const testing::TestParamInfo<std::tuple<std::string, int>> &parameters) {
-                             return std::get<0>(parameters.param) + "_" +
-                                    std::to_string(std::get<1>(parameters.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, PanelTextsFit, languagesAndFonts(), variantName);
 
 } // namespace
 } // namespace tessarin::test

@@ -76,12 +76,7 @@ TEST_P(SmallScreen, HasRoomForTheWindow)
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, SmallScreen,
-                         testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150)),
-                         [](const testing::TestParamInfo<std::tuple<std::string, int>> &parameters) {
-                             return std::get<0>(parameters.param) + "_" +
-                                    std::to_string(std::get<1>(parameters.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(Languages, SmallScreen, languagesAndFonts(), variantName);
 
 } // namespace
 } // namespace tessarin::test

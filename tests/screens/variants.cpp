@@ -17,6 +17,12 @@ std::vector<std::string> shippedLanguages()
     return codes;
 }
 
+std::string variantName(const testing::TestParamInfo<Variant> &parameters)
+{
+    const auto &[language, percent] = parameters.param;
+    return language + "_" + std::to_string(percent);
+}
+
 FontScale::FontScale(int percent)
 {
     QFont larger = before_;

@@ -9,13 +9,28 @@
 #include <QApplication>
 #include <QFont>
 
+#include <gtest/gtest.h>
+
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace tessarin::test {
 
 /// "en" and every language that the panel is translated into.
 std::vector<std::string> shippedLanguages();
+
+/// A language and the size of the font in percent.
+using Variant = std::tuple<std::string, int>;
+
+/// Every language, each with the usual font and one half as large again.
+inline auto languagesAndFonts()
+{
+    return testing::Combine(testing::ValuesIn(shippedLanguages()), testing::Values(100, 150));
+}
+
+/// "de_150"
+std::string variantName(const testing::TestParamInfo<Variant> &parameters);
 
 /// A larger font for all views as long as this object is there.
 class FontScale {
