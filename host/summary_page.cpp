@@ -74,15 +74,32 @@ void SummaryPage::makeTree()
     tree_->setUniformRowHeights(true);
     tree_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    // The last one is no narrower either when there is no room: what is out of sight can be scrolled to.
+    tree_->header()->setSectionResizeMode(kNote, QHeaderView::Fixed);
     tree_->header()->setStretchLastSection(false);
     tree_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    connect(tree_->header(), &QHeaderView::sectionResized, this, [this](int section) {
+        if (section != kNote) {
+            fitNotes();
+        }
+    });
     tree_->installEventFilter(this);
+    tree_->viewport()->installEventFilter(this);
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
         const bool any = !resettableKeys().isEmpty();
         reset_->setEnabled(any);
         resetAction_->setEnabled(any);
     });
+}
+
+// The toolkit would cut the last column where there is no room; here it can be scrolled to.
+void SummaryPage::fitNotes()
+{
+    QHeaderView *header = tree_->header();
+    tree_->resizeColumnToContents(kNote);
+    const int free = tree_->viewport()->width() - header->length();
+    if (free > 0) {
+        header->resizeSection(kNote, header->sectionSize(kNote) + free);
+    }
 }
 
 void SummaryPage::makeActions()
@@ -152,6 +169,7 @@ void SummaryPage::showSections(const QList<SummarySection> &sections)
     }
     tree_->verticalScrollBar()->setValue(scrolled);
     resetAll_->setEnabled(anyDiffers);
+    fitNotes();
 }
 
 void SummaryPage::addRow(QTreeWidgetItem *title, const SummaryRow &row)
@@ -212,6 +230,9 @@ bool SummaryPage::eventFilter(QObject *watched, QEvent *event)
             copySelected();
             return true;
         }
+    }
+    if (watched == tree_->viewport() && event->type() == QEvent::Resize) {
+        fitNotes();
     }
     return QWidget::eventFilter(watched, event);
 }

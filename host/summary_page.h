@@ -40,6 +40,7 @@ protected:
 private:
     void makeTree();
     void makeActions();
+    void fitNotes();
     void addRow(QTreeWidgetItem *title, const SummaryRow &row);
     QIcon changedMark() const;
     QStringList resettableKeys() const;

@@ -8,9 +8,12 @@
 #include "tests/host/pages_test_support.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QMenu>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tessarin::host {
 namespace {
@@ -105,6 +108,26 @@ TEST_F(SummaryPageTest, MarksWhatDiffersInWordsTypeAndPicture)
     EXPECT_EQ(row(u"Two-Sided"_s)->text(2), QString());
     EXPECT_FALSE(row(u"Two-Sided"_s)->font(1).bold());
     EXPECT_TRUE(row(u"Two-Sided"_s)->icon(2).isNull());
+}
+
+TEST_F(SummaryPageTest, HasColumnsThatFillItsWidthAndAreNeverNarrowerThanTheirTexts)
+{
+    showAll();
+    set(u"copies"_s, u"3"_s);
+    showAll();
+    const QHeaderView *header = tree()->header();
+    int least = 0; // of the notes
+    for (const int width : {700, 1000, 300, 500}) {
+        page_.resize(width, 500);
+        QCoreApplication::processEvents();
+        const int others = header->sectionSize(0) + header->sectionSize(1);
+        least = std::max(least, width == 300 ? header->sectionSize(2) : 0);
+        EXPECT_GE(header->length(), tree()->viewport()->width()) << width;
+        EXPECT_TRUE(header->length() == tree()->viewport()->width() || header->length() == others + least) << width;
+    }
+    const QString text = row(u"Copies"_s)->text(2);
+    ASSERT_FALSE(text.isEmpty());
+    EXPECT_GE(least, tree()->fontMetrics().horizontalAdvance(text));
 }
 
 TEST_F(SummaryPageTest, ResetsTheSelectedRowsThatDiffer)
