@@ -20,6 +20,9 @@ panel)
     rows=$(grep -cE '^\| .* \| [0-9.e+-]+ \| [0-9.]* ?\| (met|missed)? ?\|$' "$work/out") || true
     wanted=$(grep -c '^    {"' "$here/ratio_table.cpp")
     [ "$rows" = "$wanted" ] || fail "$rows rows in place of $wanted"
+    while IFS= read -r name; do
+        grep -qF "| $name |" "$here/README.md" || fail "README.md has no figure of: $name"
+    done < <(sed -nE 's/^    \{"([^"]+)".*/\1/p' "$here/ratio_table.cpp" | sed -E 's/^scan of [0-9]+ MiB/scan of 4, 16, 64 MiB/')
     ;;
 start)
     "$here/start/dialog_start.sh" "$1" 3 >"$work/out" 2>&1 || fail "it ended with $?"
