@@ -114,7 +114,9 @@ void ValueEditor::watchOutside()
 
 bool ValueEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != field_ || field_.isNull()) {
+    // A field that goes with its view tells of it when it is only a plain view any more.
+    const auto *field = qobject_cast<QLineEdit *>(watched);
+    if (field == nullptr || field != field_) {
         return QObject::eventFilter(watched, event);
     }
     switch (event->type()) {
