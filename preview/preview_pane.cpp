@@ -203,6 +203,11 @@ void PreviewPane::showPosition()
     bar_->setVisible(sheets > 1);
 }
 
+QPen PreviewPane::focusPen() const
+{
+    return {palette().color(QPalette::Highlight), 2};
+}
+
 void PreviewPane::drawPaper(QPainter &painter, const QRect &area) const
 {
     QSizeF size = image_.deviceIndependentSize();
@@ -222,8 +227,7 @@ void PreviewPane::drawPaper(QPainter &painter, const QRect &area) const
     // Pixel by pixel where it was drawn for this size: a filter would blur it a little.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, size != image_.deviceIndependentSize());
     painter.drawImage(place, image_);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2)
-                              : QPen(palette().color(QPalette::Mid)));
+    painter.setPen(hasFocus() ? focusPen() : QPen(palette().color(QPalette::Mid)));
     painter.drawRect(place.adjusted(-0.5, -0.5, 0.5, 0.5));
 }
 
@@ -237,7 +241,13 @@ void PreviewPane::paintEvent(QPaintEvent * /*event*/)
     const QString text = message();
     if (text.isEmpty()) {
         drawPaper(painter, area);
-    } else if (!patience_.isActive()) {
+        return;
+    }
+    if (hasFocus()) {
+        painter.setPen(focusPen());
+        painter.drawRect(area.adjusted(1, 1, -1, -1));
+    }
+    if (!patience_.isActive()) {
         painter.setPen(palette().color(QPalette::WindowText));
         QTextOption option(Qt::AlignCenter);
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // a file's name may be one long word

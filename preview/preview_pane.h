@@ -11,6 +11,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QPen>
 #include <QPointer>
 #include <QString>
 #include <QTimer>
@@ -52,6 +53,7 @@ protected:
 
 private:
     void turnTo(Turn turn);
+    QPen focusPen() const;
     void drawPaper(QPainter &painter, const QRect &area) const;
     void ask();
     void take(int sheet, const QImage &image);

@@ -72,6 +72,22 @@ TEST_F(Pane, WithoutDocumentItSaysSo)
     EXPECT_EQ(position(), QString());
 }
 
+TEST_F(Pane, ShowsTheFocusBesideAMessageToo)
+{
+    pane_.activateWindow();
+    ASSERT_FALSE(pane_.message().isEmpty());
+    pane_.setFocus();
+    ASSERT_TRUE(waitFor([this] { return pane_.hasFocus(); }));
+    const QImage with = pane_.grab().toImage();
+    pane_.clearFocus();
+    const QImage without = pane_.grab().toImage();
+    int columns = 0;
+    for (int x = 0; x < with.width(); ++x) {
+        columns += with.copy(x, 0, 1, with.height()) == without.copy(x, 0, 1, with.height()) ? 0 : 1;
+    }
+    EXPECT_GT(columns, 100);
+}
+
 TEST_F(Pane, SaysWhyThereIsNoPreview)
 {
     test::writeFile(folder_.filePath("letter.ps"), "%!PS\n");
