@@ -52,6 +52,21 @@ void reset(const PanelContext &context, QSlider *slider, int number)
     }
 }
 
+/// False once the program's statics go. The toolkit's list of observers does not outlive that.
+bool toolkitIsThere = true;
+
+/// To be called when the toolkit has its list: what is made later goes earlier.
+void watchForTheEnd()
+{
+    struct End {
+        End() = default;
+        ~End() { toolkitIsThere = false; }
+        End(const End &) = delete;
+        End &operator=(const End &) = delete;
+    };
+    static const End end;
+}
+
 } // namespace
 
 SettingEvents::SettingEvents(QObject *parent, std::function<const PanelContext *()> context)
@@ -59,11 +74,14 @@ SettingEvents::SettingEvents(QObject *parent, std::function<const PanelContext *
 {
     isDescribing_ = QAccessible::isActive();
     QAccessible::installActivationObserver(this);
+    watchForTheEnd();
 }
 
 SettingEvents::~SettingEvents()
 {
-    QAccessible::removeActivationObserver(this);
+    if (toolkitIsThere) { // a host's factory may be a static that goes last
+        QAccessible::removeActivationObserver(this);
+    }
 }
 
 void SettingEvents::watchView(QWidget *view)

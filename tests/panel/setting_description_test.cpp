@@ -16,6 +16,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <memory>
+
 namespace tessarin::test {
 namespace {
 
@@ -244,6 +247,20 @@ TEST(SettingDescription, TakesNoMarkupFromAPrinter)
     ChangeMenuItemAttributes(media, media->findText(QStringLiteral("<i>Open Tag")) + 1, kMenuItemDisabled, 0);
     EXPECT_TRUE(tipOver(media).contains(QStringLiteral("<i>Open Tag")));
     EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("&lt;i&gt;Open Tag")));
+}
+
+/// A factory that goes after the toolkit's own statics, as it was there before.
+[[noreturn]] void endWithAPanel()
+{
+    static std::unique_ptr<PanelSession> kept;
+    kept = std::make_unique<PanelSession>();
+    kept->open();
+    std::exit(0);
+}
+
+TEST(PanelAtTheEnd, MayBeAmongTheLastThatGo)
+{
+    EXPECT_EXIT(endWithAPanel(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace
