@@ -31,7 +31,7 @@ public:
     }
     QString text(QAccessible::Text kind) const override
     {
-        const QString level = QStringLiteral("%1%").arg(view_->level());
+        QString level = QStringLiteral("%1%").arg(view_->level());
         switch (kind) {
         case QAccessible::Name:
             return rowText(true);
