@@ -114,7 +114,7 @@ QByteArray PpdTranslations::text(ppd_file_t *ppd, const char *keyword, const cha
         if (known && known->text[0] != '\0') {
             return known->text;
         }
-        const QByteArray found = texts_.value(keyOf(language.toLatin1(), keyword, name));
+        QByteArray found = texts_.value(keyOf(language.toLatin1(), keyword, name));
         if (!found.isEmpty()) {
             return found;
         }
