@@ -3,10 +3,7 @@
 
 #include "host/edge_style.h"
 
-#include "host/theme.h"
-
 #include <QApplication>
-#include <QEvent>
 #include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
@@ -183,16 +180,7 @@ void EdgeStyle::drawSlider(const QStyleOptionComplex *option, QPainter *painter,
 
 EdgeKeeper::EdgeKeeper()
 {
-    mend();
-    QCoreApplication::instance()->installEventFilter(this);
-}
-
-bool EdgeKeeper::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()) {
-        mend();
-    }
-    return QObject::eventFilter(watched, event);
+    EdgeKeeper::mend();
 }
 
 void EdgeKeeper::mend()

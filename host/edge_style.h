@@ -6,7 +6,8 @@
 #ifndef TESSARIN_HOST_EDGE_STYLE_H
 #define TESSARIN_HOST_EDGE_STYLE_H
 
-#include <QObject>
+#include "host/theme.h"
+
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -33,15 +34,12 @@ private:
 
 /// Sets this style in place of Qt's own at once, and of another as soon as the application's colours need it, at
 /// the start or when the theme changes.
-class EdgeKeeper final : public QObject {
+class EdgeKeeper final : public ThemeKeeper {
 public:
     EdgeKeeper();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-    void mend();
+    void mend() override;
 
     bool isSet_ = false;
 };

@@ -55,18 +55,22 @@ QColor placeholderColor(const QPalette &palette)
     return legibleColor(mixed(text, ground, kPaleness), ground, text, kTextContrast);
 }
 
-PlaceholderKeeper::PlaceholderKeeper()
+ThemeKeeper::ThemeKeeper()
 {
-    mend();
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool PlaceholderKeeper::eventFilter(QObject *watched, QEvent *event)
+bool ThemeKeeper::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()) {
         mend();
     }
     return QObject::eventFilter(watched, event);
+}
+
+PlaceholderKeeper::PlaceholderKeeper()
+{
+    PlaceholderKeeper::mend();
 }
 
 void PlaceholderKeeper::mend()

@@ -25,17 +25,25 @@ QColor legibleColor(const QColor &wanted, const QColor &ground, const QColor &ot
 /// A colour for hints in empty lines of input: paler than the palette's text, yet legible on its base.
 QColor placeholderColor(const QPalette &palette);
 
-/// Gives the application's hints such a colour as long as this object is there, also after a change of the theme.
-/// Some themes name all colours but this one, and Qt's own is then black, whatever the ground.
-class PlaceholderKeeper final : public QObject {
+/// Mends what a theme leaves out, again after each change of the theme, as long as this object is there.
+class ThemeKeeper : public QObject {
+protected:
+    ThemeKeeper();
+
+    bool eventFilter(QObject *watched, QEvent *event) final;
+
+    /// Called after a change of the application's colours.
+    virtual void mend() = 0;
+};
+
+/// Gives the application's hints such a colour. Some themes name all colours but this one, and Qt's own is then
+/// black, whatever the ground.
+class PlaceholderKeeper final : public ThemeKeeper {
 public:
     PlaceholderKeeper();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-    static void mend();
+    void mend() override;
 };
 
 } // namespace tessarin::host
