@@ -46,12 +46,12 @@ void enableSliderNumber(const PanelContext &context, int number, bool enabled)
     SetControlEnabled(context.controls.sliderControls[static_cast<std::size_t>(number)], enabled);
 }
 
-StringRef localized(const char *text)
-{
-    return MyCFCopyLocalizedString(myCFStringCreateWithCString(nullptr, text, kEncodingUTF8), "");
-}
-
 } // namespace
+
+int selectedMediaMode(const PanelContext &context)
+{
+    return StringPropertyNumber(selectedMediaKey(context));
+}
 
 int StringPropertyNumber(const char *text)
 {
@@ -99,7 +99,7 @@ void checkAvailabilityForMenus(PanelContext *context, int row)
 
 void checkControlAvailability(PanelContext *context, int eventId)
 {
-    const int mode = StringPropertyNumber(selectedMediaKey(*context));
+    const int mode = selectedMediaMode(*context);
     const ControlsStruct &controls = context->controls;
 
     enableSliderNumber(*context, kSliderBrightCyan, mode >= 5);
@@ -110,7 +110,7 @@ void checkControlAvailability(PanelContext *context, int eventId)
 
     const bool oneForAll = mode == kBrightInksMode;
     SetControlVisibility(controls.magentaPane, !oneForAll);
-    const StringRef usage = localized(oneForAll ? "Bright Inks\nUsage:" : "Bright Cyan\nUsage:");
+    const StringRef usage = localizedText(oneForAll ? "Bright Inks\nUsage:" : "Bright Cyan\nUsage:");
     SetControlVisibility(controls.brightCyanIcon, !oneForAll);
     SetControlVisibility(controls.photoControl, oneForAll);
 
@@ -144,10 +144,10 @@ void checkControlAvailability(PanelContext *context, int eventId)
 
 int MyShowAlert(QWidget *parent)
 {
-    const StringRef message = localized("You have chosen an incomplete media profile without color data!\n"
-                                        "This profile should only be used for printing color charts!");
+    const StringRef message = localizedText("You have chosen an incomplete media profile without color data!\n"
+                                            "This profile should only be used for printing color charts!");
     std::int16_t pressed = 0;
-    return MyStdAlert(parent, false, localized("Attention:"), message, &pressed) != 0 ? -1 : 0;
+    return MyStdAlert(parent, false, localizedText("Attention:"), message, &pressed) != 0 ? -1 : 0;
 }
 
 } // namespace tessarin

@@ -26,6 +26,9 @@ inline constexpr int kBrightInksMode = 5;
 /// key and null. Of a media type's key it is the media mode.
 int StringPropertyNumber(const char *text);
 
+/// The media mode of the media type that the settings select, 0..9; 0 where none is selected.
+int selectedMediaMode(const PanelContext &context);
+
 /// Hides the entries of pop-up row 3 (rendering intent) or 4 (colour mode) that the media mode does not allow and
 /// moves the selection off them. Stores the row's selection, and media selection 1 where it was 0.
 void checkAvailabilityForMenus(PanelContext *context, int row);

@@ -97,6 +97,12 @@ struct ScrollRow {
     StringRef formatString = {}; ///< the format as a string, made with every context
 };
 
+/// The position at which a slider stands for `value` of its keyword; it may be beyond the slider's ends.
+inline std::int64_t positionOfPPDValue(const ScrollRow &slider, std::int32_t value)
+{
+    return (std::int64_t{value} - slider.ppdOffset) / slider.ppdStep;
+}
+
 /// One pop-up.
 struct PopRow {
     std::int32_t page;         ///< mask of the page that holds the pop-up

@@ -60,16 +60,10 @@ Cause causeOf(const PanelContext &context, int row)
     return {localizedSentence(pops[place].label), QString::fromUtf8(choice)};
 }
 
-int mediaMode(const PanelContext &context)
-{
-    return StringPropertyNumber(
-        pairKey(choiceList(*context.ppdOptions, kPopMediaType), context.settings.popupSelections[kPopMediaType]));
-}
-
 QString mediaReason(const PanelContext &context)
 {
     const Cause media = causeOf(context, kPopMediaType);
-    const bool complete = mediaMode(context) != kIncompleteProfileMode;
+    const bool complete = selectedMediaMode(context) != kIncompleteProfileMode;
     return localizedSentence(complete ? kNotWithText : kNoColorDataText).arg(media.caption, media.choice);
 }
 
@@ -81,7 +75,7 @@ bool isListed(const std::array<int, 7> &list, int number)
 QString popUpReason(const PanelContext &context, int row)
 {
     // A pop-up stays as it is when the settings are restored: then its reason may be a medium that has gone.
-    const bool byMedia = isListed(disablepopups, row) && mediaMode(context) == kIncompleteProfileMode;
+    const bool byMedia = isListed(disablepopups, row) && selectedMediaMode(context) == kIncompleteProfileMode;
     return byMedia ? mediaReason(context) : localizedSentence(kNotNowText);
 }
 
@@ -127,7 +121,7 @@ std::map<int, QStringList> choicesByCause(const PanelContext &context, int row, 
 
 QString localizedSentence(const char *text)
 {
-    return toQString(MyCFCopyLocalizedString(myCFStringCreateWithCString(nullptr, text, kEncodingUTF8), ""));
+    return toQString(localizedText(text));
 }
 
 std::optional<Setting> settingOf(const PanelContext &context, const QWidget *view)
@@ -240,7 +234,8 @@ QString tabReason(const PanelContext &context, int position)
     if (tabs == nullptr || position < 0 || tabs->identifier(position) != QLatin1String(kTabOff)) {
         return {};
     }
-    return mediaMode(context) == kIncompleteProfileMode ? mediaReason(context) : localizedSentence(kNotNowText);
+    return selectedMediaMode(context) == kIncompleteProfileMode ? mediaReason(context)
+                                                                : localizedSentence(kNotNowText);
 }
 
 } // namespace tessarin

@@ -66,8 +66,8 @@ std::optional<int> defaultPosition(const PanelContext &context, int row)
     if (!value) {
         return std::nullopt;
     }
-    const std::int64_t position = (std::int64_t{*value} - slider.ppdOffset) / slider.ppdStep;
-    return static_cast<int>(std::clamp<std::int64_t>(position, slider.minimum, slider.maximum));
+    return static_cast<int>(
+        std::clamp<std::int64_t>(positionOfPPDValue(slider, *value), slider.minimum, slider.maximum));
 }
 
 std::optional<int> typedPosition(int row, const QString &typed)

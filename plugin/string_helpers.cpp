@@ -73,4 +73,9 @@ StringRef MyCFCopyLocalizedString(const StringRef &key, const char * /*comment*/
     return makeString(mybundle->localizedString(toQString(key)));
 }
 
+StringRef localizedText(const char *english)
+{
+    return MyCFCopyLocalizedString(myCFStringCreateWithCString(nullptr, english, kEncodingUTF8), "");
+}
+
 } // namespace tessarin

@@ -57,6 +57,8 @@ void myCFRelease(const StringRef &string);
 /// The localised text for an English key, from `mybundle`; the key itself when it has no translation. `comment` is
 /// ignored. The caller does not own the result.
 StringRef MyCFCopyLocalizedString(const StringRef &key, const char *comment);
+/// The same for a key that is a zero-terminated string in UTF-8.
+StringRef localizedText(const char *english);
 
 } // namespace tessarin
 

@@ -79,7 +79,7 @@ int getPPDOptionSelections(PanelContext *context)
         _VERBOSE("GetPPDOption for feature: %S\n", slider.keyword);
         slider.ppdDefault = currentValue(context, slider.keyword);
         context->settings.sliderValues[static_cast<std::size_t>(slider.number)] =
-            clampToInt32((std::int64_t{slider.ppdDefault} - slider.ppdOffset) / slider.ppdStep);
+            clampToInt32(positionOfPPDValue(slider, slider.ppdDefault));
     }
     for (std::size_t row = 0; row < kCheckBoxCount; ++row) {
         checkboxes[row].value = currentValue(context, checkboxes[row].keyword);
