@@ -67,7 +67,7 @@ PrintDialog::PrintDialog(DialogParts parts, QWidget *parent)
     connect(finder_.get(), &DestinationFinder::failed, this, [this](const QString &reason) {
         picker_->setSearching(false);
         if (!open_ && opening_.name.isEmpty()) {
-            showPlaceholder(reason, {{TessarinPrint::tr("Try &Again"), [this] { start(); }}});
+            showPlaceholder(reason, {{TessarinPrint::tr("Tr&y Again"), [this] { start(); }}});
         } else if (notice_->isHidden()) {
             notice_->tell(reason);
         } // else what it says is nearer to the person's heart: an undo, or why their printer does not open

@@ -119,7 +119,7 @@ void PrintDialog::printerFailed(const QString &reason)
 {
     const PrinterChoice failed = std::exchange(opening_, {});
     status_->clear();
-    const QList<NoticeAction> again = {{TessarinPrint::tr("Try &Again"), [this, failed] { openChoice(failed); }}};
+    const QList<NoticeAction> again = {{TessarinPrint::tr("Tr&y Again"), [this, failed] { openChoice(failed); }}};
     if (!open_) {
         picker_->setCurrent(failed);
         showPlaceholder(TessarinPrint::tr("There is no printer open."));

@@ -37,9 +37,9 @@ QString note(const SummaryRow &row)
 
 SummaryPage::SummaryPage(QWidget *parent)
     : QWidget(parent), tree_(new QTreeWidget(this)),
-      reset_(new QPushButton(TessarinPrint::tr("&Reset to Default"), this)),
+      reset_(new QPushButton(TessarinPrint::tr("Reset to &Default"), this)),
       resetAll_(new QPushButton(TessarinPrint::tr("Reset A&ll to Defaults"), this)),
-      resetAction_(new QAction(TessarinPrint::tr("&Reset to Default"), this))
+      resetAction_(new QAction(TessarinPrint::tr("Reset to &Default"), this))
 {
     makeTree();
     reset_->setObjectName(QStringLiteral("reset"));

@@ -3,6 +3,7 @@
 
 #include "platform/interface_loader.h"
 
+#include "platform/caption_label.h"
 #include "platform/interface_scale.h"
 #include "platform/popup_button.h"
 #include "platform/tab_view.h"
@@ -30,7 +31,9 @@ public:
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
         QWidget *view = nullptr;
-        if (className == QLatin1String("PopUpButton")) {
+        if (className == QLatin1String("QLabel")) {
+            view = new CaptionLabel(parent);
+        } else if (className == QLatin1String("PopUpButton")) {
             view = new PopUpButton(parent);
         } else if (className == QLatin1String("TabView")) {
             view = new TabView(parent);

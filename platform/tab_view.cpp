@@ -3,6 +3,8 @@
 
 #include "platform/tab_view.h"
 
+#include "platform/mnemonics.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QShortcutEvent>
@@ -49,17 +51,49 @@ void AskingTabBar::showIdentifiers()
     update();
 }
 
-bool AskingTabBar::event(QEvent *event)
+void AskingTabBar::giveMnemonics(MnemonicLetters &letters)
 {
-    if (event->type() == QEvent::Shortcut) {
-        const auto *shortcut = static_cast<QShortcutEvent *>(event);
-        for (int position = 0; position < count(); ++position) {
-            if (QKeySequence::mnemonic(tabText(position)) == shortcut->key() && !maySelect(position)) {
-                return true;
-            }
+    for (const Mnemonic &mnemonic : mnemonics_) {
+        releaseShortcut(mnemonic.shortcut);
+    }
+    mnemonics_.assign(static_cast<std::size_t>(count()), {});
+    for (int position = 0; position < count(); ++position) {
+        const QKeySequence own = QKeySequence::mnemonic(tabText(position));
+        letters.take(own);
+        const QChar letter = own.isEmpty() ? letters.give(tabText(position)) : QChar();
+        if (!letter.isNull()) {
+            mnemonics_[static_cast<std::size_t>(position)] = {letter, grabShortcut(mnemonicKeys(letter))};
         }
     }
-    return QTabBar::event(event);
+    update();
+}
+
+QChar AskingTabBar::mnemonic(int position) const
+{
+    const auto place = static_cast<std::size_t>(position);
+    return position >= 0 && place < mnemonics_.size() ? mnemonics_[place].letter : QChar();
+}
+
+bool AskingTabBar::event(QEvent *event)
+{
+    return (event->type() == QEvent::Shortcut && answerKeys(*static_cast<QShortcutEvent *>(event))) ||
+           QTabBar::event(event);
+}
+
+bool AskingTabBar::answerKeys(const QShortcutEvent &keys)
+{
+    for (int position = 0; position < count(); ++position) {
+        if (QKeySequence::mnemonic(tabText(position)) == keys.key() && !maySelect(position)) {
+            return true;
+        }
+        if (!mnemonic(position).isNull() && mnemonicKeys(mnemonic(position)) == keys.key()) {
+            if (maySelect(position)) {
+                setCurrentIndex(position);
+            }
+            return true;
+        }
+    }
+    return false;
 }
 
 void AskingTabBar::mousePressEvent(QMouseEvent *event)
@@ -122,6 +156,7 @@ void AskingTabBar::initStyleOption(QStyleOptionTab *option, int tabIndex) const
         option->state &= ~QStyle::State_Enabled;
         option->palette.setCurrentColorGroup(QPalette::Disabled);
     }
+    option->text = markedText(option->text, mnemonic(tabIndex));
 }
 
 TabView::TabView(QWidget *parent) : QTabWidget(parent), bar_(new AskingTabBar(this))
@@ -152,6 +187,12 @@ void TabView::setIdentifier(int position, const QString &identifier)
     bar_->showIdentifiers();
 }
 
+void TabView::showEvent(QShowEvent *event)
+{
+    QTabWidget::showEvent(event);
+    tessarin::giveMnemonics(this);
+}
+
 void TabView::keyPressEvent(QKeyEvent *event)
 {
     if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) &&
@@ -169,8 +210,11 @@ void TabView::keepAllowed(int position)
     const bool refused = position >= 0 && position != allowed_ && !bar_->maySelect(position);
     if (refused && allowed_ >= 0 && allowed_ < count()) {
         setCurrentIndex(allowed_);
-    } else {
-        allowed_ = position;
+        return;
+    }
+    allowed_ = position;
+    if (isVisible()) {
+        tessarin::giveMnemonics(this);
     }
 }
 

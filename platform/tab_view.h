@@ -10,8 +10,13 @@
 #include <QTabWidget>
 
 #include <functional>
+#include <vector>
+
+class QShortcutEvent;
 
 namespace tessarin {
+
+class MnemonicLetters;
 
 /// Answers whether the tab at a 0-based position may be selected.
 using ShouldSelectTab = std::function<bool(int position)>;
@@ -31,6 +36,10 @@ public:
     void selectNext(int direction, bool wrap);
     /// Draws each tab as its identifier says: the tabs that would be refused look disabled.
     void showIdentifiers();
+    /// Gives each tab whose text marks no letter one of those that are left. A refused tab has one as well.
+    void giveMnemonics(MnemonicLetters &letters);
+    /// The letter that a tab was given; null when it has none.
+    QChar mnemonic(int position) const;
 
 protected:
     bool event(QEvent *event) override;
@@ -41,8 +50,16 @@ protected:
     void initStyleOption(QStyleOptionTab *option, int tabIndex) const override;
 
 private:
+    bool answerKeys(const QShortcutEvent &keys);
+
+    struct Mnemonic {
+        QChar letter;
+        int shortcut = 0; ///< the toolkit's number of the keys; 0: there are none
+    };
+
     ShouldSelectTab shouldSelect_;
-    int wheelTurn_ = 0; ///< angle not yet used up, in eighths of a degree
+    std::vector<Mnemonic> mnemonics_; ///< by the tab's position
+    int wheelTurn_ = 0;               ///< angle not yet used up, in eighths of a degree
 };
 
 /// The tab widget with such a bar. Each tab's identifier is its data in the bar.
@@ -57,8 +74,10 @@ public:
     /// The identifier of the tab at a position; a null string when it has none or there is no such tab.
     QString identifier(int position) const;
     void setIdentifier(int position, const QString &identifier);
+    void giveMnemonics(MnemonicLetters &letters) { bar_->giveMnemonics(letters); }
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -244,7 +244,7 @@ Rückgabewerte: 0 gedruckt (oder erledigt, was statt des Druckens verlangt war),
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Erneut versu&amp;chen</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Rückgabewerte: 0 gedruckt (oder erledigt, was statt des Druckens verlangt war),
         <translation>geändert (Standard: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Auf Standard &amp;zurücksetzen</translation>
     </message>
     <message>

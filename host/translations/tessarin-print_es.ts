@@ -244,7 +244,7 @@ Códigos de salida: 0 impreso (o hecho lo que se pidió en lugar de imprimir), 1
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Intentar de n&amp;uevo</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Códigos de salida: 0 impreso (o hecho lo que se pidió en lugar de imprimir), 1
         <translation>cambiado (predeterminado: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Resta&amp;blecer valor predeterminado</translation>
     </message>
     <message>

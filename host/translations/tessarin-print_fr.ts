@@ -244,7 +244,7 @@ Codes de sortie&#xa0;: 0 imprimé (ou action demandée à la place effectuée), 
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Réess&amp;ayer</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Codes de sortie&#xa0;: 0 imprimé (ou action demandée à la place effectuée), 
         <translation>modifié (par défaut&#xa0;: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Réta&amp;blir la valeur par défaut</translation>
     </message>
     <message>

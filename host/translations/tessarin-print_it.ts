@@ -244,7 +244,7 @@ Codici di uscita: 0 stampato (o eseguito quanto richiesto al posto della stampa)
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Ripro&amp;va</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Codici di uscita: 0 stampato (o eseguito quanto richiesto al posto della stampa)
         <translation>modificato (predefinito: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Ripristin&amp;a predefinito</translation>
     </message>
     <message>

@@ -244,8 +244,8 @@ Exit codes: 0 printed (or done what was asked in place of printing), 1 cancelled
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
-        <translation>もう一度試す(&amp;A)</translation>
+        <source>Tr&amp;y Again</source>
+        <translation>もう一度試す(&amp;Y)</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -820,8 +820,8 @@ Exit codes: 0 printed (or done what was asked in place of printing), 1 cancelled
         <translation>変更済み (デフォルト: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
-        <translation>デフォルト値に戻す(&amp;R)</translation>
+        <source>Reset to &amp;Default</source>
+        <translation>デフォルト値に戻す(&amp;D)</translation>
     </message>
     <message>
         <source>Reset A&amp;ll to Defaults</source>

@@ -244,7 +244,7 @@ Afsluitcodes: 0 afgedrukt (of gedaan wat in plaats van afdrukken is gevraagd), 1
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Opn&amp;ieuw proberen</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Afsluitcodes: 0 afgedrukt (of gedaan wat in plaats van afdrukken is gevraagd), 1
         <translation>gewijzigd (standaard: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Terug&amp;zetten naar standaard</translation>
     </message>
     <message>

@@ -244,7 +244,7 @@ Kody wyjścia: 0 wydrukowano (lub wykonano to, o co poproszono zamiast drukowani
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Spróbuj j&amp;eszcze raz</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Kody wyjścia: 0 wydrukowano (lub wykonano to, o co poproszono zamiast drukowani
         <translation>zmienione (domyślnie: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Prz&amp;ywróć domyślne</translation>
     </message>
     <message>

@@ -244,7 +244,7 @@ Códigos de saída: 0 impresso (ou feito o que foi pedido em vez de imprimir), 1
         <translation> mm</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
+        <source>Tr&amp;y Again</source>
         <translation>Tentar no&amp;vamente</translation>
     </message>
     <message>
@@ -820,7 +820,7 @@ Códigos de saída: 0 impresso (ou feito o que foi pedido em vez de imprimir), 1
         <translation>alterado (padrão: %1)</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
+        <source>Reset to &amp;Default</source>
         <translation>Resta&amp;urar o padrão</translation>
     </message>
     <message>

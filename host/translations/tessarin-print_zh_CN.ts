@@ -244,8 +244,8 @@ Exit codes: 0 printed (or done what was asked in place of printing), 1 cancelled
         <translation> 毫米</translation>
     </message>
     <message>
-        <source>Try &amp;Again</source>
-        <translation>重试(&amp;A)</translation>
+        <source>Tr&amp;y Again</source>
+        <translation>重试(&amp;Y)</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -820,8 +820,8 @@ Exit codes: 0 printed (or done what was asked in place of printing), 1 cancelled
         <translation>已更改（默认：%1）</translation>
     </message>
     <message>
-        <source>&amp;Reset to Default</source>
-        <translation>重置为默认值(&amp;R)</translation>
+        <source>Reset to &amp;Default</source>
+        <translation>重置为默认值(&amp;D)</translation>
     </message>
     <message>
         <source>Reset A&amp;ll to Defaults</source>
