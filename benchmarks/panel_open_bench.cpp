@@ -19,6 +19,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <vector>
 
 #include <malloc.h>
 
@@ -88,7 +89,7 @@ void panelHeap(benchmark::State &state)
 {
     const auto bundle = test::buildBundle();
     const test::PanelSession warm(test::samplePPD(), "sample", bundle);
-    std::size_t bytes = 0;
+    std::vector<std::size_t> bytes;
     for ([[maybe_unused]] auto round : state) {
         const auto host = std::make_shared<test::RecordingHost>(test::samplePPD());
         const auto plugIn = std::make_unique<TessarinPDEPlugIn>();
@@ -100,9 +101,12 @@ void panelHeap(benchmark::State &state)
         view->setParent(window);
         delete window; // the widgets are the window's then
         malloc_trim(0);
-        bytes = std::max(bytes, heapInUse() - std::min(before, heapInUse()));
+        bytes.push_back(heapInUse() - std::min(before, heapInUse()));
     }
-    state.counters["KiB"] = static_cast<double>(bytes) / 1024;
+    // Not the greatest: in one round or another the toolkit fills a cache of its own.
+    const auto middle = bytes.begin() + static_cast<std::ptrdiff_t>(bytes.size() / 2);
+    std::nth_element(bytes.begin(), middle, bytes.end());
+    state.counters["KiB"] = static_cast<double>(*middle) / 1024;
 }
 
 } // namespace
