@@ -7,6 +7,7 @@
 #include "controls/control_layer.h"
 #include "controls/control_tables.h"
 #include "controls/menu_items.h"
+#include "platform/caption_label.h"
 #include "platform/tab_view.h"
 #include "platform/view_tags.h"
 #include "plugin/string_helpers.h"
@@ -152,7 +153,7 @@ std::optional<Setting> settingOf(const PanelContext &context, const QWidget *vie
         return Setting{SettingKind::ReloadInk, 0};
     }
     const auto *caption = qobject_cast<const QLabel *>(view);
-    return caption != nullptr ? settingOf(context, caption->buddy()) : std::nullopt;
+    return caption != nullptr ? settingOf(context, captionedControl(*caption)) : std::nullopt;
 }
 
 QWidget *settingControl(const PanelContext &context, Setting setting)

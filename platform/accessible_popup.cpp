@@ -36,11 +36,19 @@ QString AccessiblePopUp::text(QAccessible::Text kind) const
     switch (kind) {
     case QAccessible::Name:
         return captionOf(popup());
+    case QAccessible::Accelerator:
+        return acceleratorOf(popup());
     case QAccessible::Value:
         return popup()->currentText();
     default:
         return QAccessibleWidget::text(kind);
     }
+}
+
+QStringList AccessiblePopUp::keyBindingsForAction(const QString &name) const
+{
+    const QString keys = name == setFocusAction() ? acceleratorOf(popup()) : QString();
+    return keys.isEmpty() ? QAccessibleWidget::keyBindingsForAction(name) : QStringList{keys};
 }
 
 QAccessible::State AccessiblePopUp::state() const

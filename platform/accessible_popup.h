@@ -20,6 +20,7 @@ public:
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;
+    QStringList keyBindingsForAction(const QString &name) const override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;
     void doAction(const QString &name) override;

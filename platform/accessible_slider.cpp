@@ -60,6 +60,8 @@ QString AccessibleSlider::text(QAccessible::Text kind) const
     switch (kind) {
     case QAccessible::Name:
         return captionOf(slider());
+    case QAccessible::Accelerator:
+        return acceleratorOf(slider());
     case QAccessible::Value:
         return textAt(slider()->value());
     case QAccessible::Description: {
@@ -70,6 +72,12 @@ QString AccessibleSlider::text(QAccessible::Text kind) const
     default:
         return QAccessibleWidget::text(kind);
     }
+}
+
+QStringList AccessibleSlider::keyBindingsForAction(const QString &name) const
+{
+    const QString keys = name == setFocusAction() ? acceleratorOf(slider()) : QString();
+    return keys.isEmpty() ? QAccessibleWidget::keyBindingsForAction(name) : QStringList{keys};
 }
 
 QAccessible::State AccessibleSlider::state() const

@@ -5,7 +5,9 @@
 
 #include "platform/accessible_popup.h"
 #include "platform/accessible_slider.h"
+#include "platform/caption_label.h"
 #include "platform/level_view.h"
+#include "platform/mnemonics.h"
 
 #include <QAccessibleWidget>
 #include <QFrame>
@@ -13,6 +15,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace tessarin {
@@ -171,6 +174,20 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     return new AccessibleLevelBox(view);
 }
 
+/// The first label that is asked for, beside the view or beside a view around it; null: there is none.
+const QLabel *labelAround(const QWidget *view, const std::function<bool(const QLabel &)> &isWanted)
+{
+    for (const QWidget *around = view->parentWidget(); around != nullptr; around = around->parentWidget()) {
+        for (const QObject *child : around->children()) {
+            const auto *label = qobject_cast<const QLabel *>(child);
+            if (label != nullptr && isWanted(*label)) {
+                return label;
+            }
+        }
+    }
+    return nullptr;
+}
+
 QString withoutColon(QString caption)
 {
     caption = caption.simplified();
@@ -213,15 +230,15 @@ QString captionOf(const QWidget *view)
     if (!view->accessibleName().isEmpty()) {
         return view->accessibleName();
     }
-    for (const QWidget *around = view->parentWidget(); around != nullptr; around = around->parentWidget()) {
-        for (const QObject *child : around->children()) {
-            const auto *label = qobject_cast<const QLabel *>(child);
-            if (label != nullptr && label->buddy() == view) {
-                return withoutColon(label->text());
-            }
-        }
-    }
-    return {};
+    const QLabel *label = labelAround(view, [view](const QLabel &near) { return near.buddy() == view; });
+    return label != nullptr ? withoutColon(label->text()) : QString();
+}
+
+QString acceleratorOf(const QWidget *view)
+{
+    const QLabel *label = labelAround(view, [view](const QLabel &near) { return captionedControl(near) == view; });
+    const auto *caption = qobject_cast<const CaptionLabel *>(label);
+    return caption != nullptr ? mnemonicKeys(caption->mnemonic()).toString(QKeySequence::NativeText) : QString();
 }
 
 } // namespace tessarin

@@ -38,6 +38,8 @@ void announceText(QWidget *view);
 
 /// The caption of a control: its accessible name, else the text of the label that has it as buddy, without colon.
 QString captionOf(const QWidget *view);
+/// The keys that give a control the focus, as they are read: "Alt+B"; empty when there are none.
+QString acceleratorOf(const QWidget *view);
 
 } // namespace tessarin
 

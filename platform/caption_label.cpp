@@ -24,6 +24,21 @@ qsizetype endOfCaption(const QString &text)
 
 } // namespace
 
+QWidget *captionedControl(const QLabel &caption)
+{
+    QWidget *control = caption.buddy();
+    if (control == nullptr || !control->isHidden()) {
+        return control;
+    }
+    for (QObject *sibling : control->parentWidget()->children()) {
+        auto *other = qobject_cast<QWidget *>(sibling);
+        if (other != nullptr && !other->isHidden() && other->geometry() == control->geometry()) {
+            return other;
+        }
+    }
+    return control;
+}
+
 CaptionLabel::CaptionLabel(QWidget *parent) : QLabel(parent) {}
 
 void CaptionLabel::setMnemonic(QChar letter)
@@ -62,17 +77,20 @@ QString CaptionLabel::textWith(QChar letter) const
 bool CaptionLabel::hasRoomFor(const QString &text) const
 {
     const QRect room = contentsRect();
-    const int flags = drawingFlags() | Qt::TextShowMnemonic;
+    const int flags = drawingFlags(text) | Qt::TextShowMnemonic;
     const QRect needed = fontMetrics().boundingRect(room, flags, text);
     // A letter on a line of its own would belong to nothing.
     return needed.width() <= room.width() &&
            needed.height() <= fontMetrics().boundingRect(room, flags, textWith({})).height();
 }
 
-int CaptionLabel::drawingFlags() const
+int CaptionLabel::drawingFlags(const QString &text) const
 {
-    const Qt::Alignment aligned = QStyle::visualAlignment(layoutDirection(), alignment());
-    return static_cast<int>(aligned.toInt()) | (wordWrap() ? Qt::TextWordWrap : 0);
+    const bool leftwards = text.isRightToLeft(); // as every label has it, whatever the window's direction
+    const Qt::Alignment aligned =
+        QStyle::visualAlignment(leftwards ? Qt::RightToLeft : Qt::LeftToRight, alignment());
+    return static_cast<int>(aligned.toInt()) | (wordWrap() ? Qt::TextWordWrap : 0) |
+           (leftwards ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight);
 }
 
 bool CaptionLabel::event(QEvent *event)
@@ -81,8 +99,8 @@ bool CaptionLabel::event(QEvent *event)
         static_cast<const QShortcutEvent *>(event)->shortcutId() != shortcut_) {
         return QLabel::event(event);
     }
-    if (buddy() != nullptr) {
-        buddy()->setFocus(Qt::ShortcutFocusReason);
+    if (QWidget *control = captionedControl(*this); control != nullptr && control->isVisible()) {
+        control->setFocus(Qt::ShortcutFocusReason);
         window()->setAttribute(Qt::WA_KeyboardFocusChange);
     }
     return true;
@@ -90,7 +108,7 @@ bool CaptionLabel::event(QEvent *event)
 
 void CaptionLabel::paintEvent(QPaintEvent *event)
 {
-    if (letter_.isNull() || text().isEmpty() || textFormat() != Qt::PlainText) {
+    if (buddy() == nullptr || text().isEmpty() || textFormat() != Qt::PlainText) {
         QLabel::paintEvent(event);
         return;
     }
@@ -99,9 +117,9 @@ void CaptionLabel::paintEvent(QPaintEvent *event)
     QStyleOption option;
     option.initFrom(this);
     const bool underlined = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
-    const int flags = drawingFlags() | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
-    style()->drawItemText(&painter, contentsRect(), flags, option.palette, isEnabled(), drawnText(),
-                          foregroundRole());
+    const QString drawn = drawnText();
+    const int flags = drawingFlags(drawn) | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+    style()->drawItemText(&painter, contentsRect(), flags, option.palette, isEnabled(), drawn, foregroundRole());
 }
 
 } // namespace tessarin

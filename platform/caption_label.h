@@ -10,6 +10,10 @@
 
 namespace tessarin {
 
+/// The control that a label is the caption of: its buddy, or what stands in the place of a hidden one; null when it
+/// is no caption.
+QWidget *captionedControl(const QLabel &caption);
+
 class CaptionLabel final : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QChar mnemonic READ mnemonic)
@@ -18,8 +22,8 @@ class CaptionLabel final : public QLabel {
 public:
     explicit CaptionLabel(QWidget *parent = nullptr);
 
-    /// Alt and the letter, A to Z, give the buddy the focus; the letter is underlined where the text has it, and
-    /// shown behind the text where it has not. Null: there is none.
+    /// Alt and the letter, A to Z, give the captioned control the focus; the letter is underlined where the text
+    /// has it, else shown behind the text if there is room. Null: there is none.
     void setMnemonic(QChar letter);
     QChar mnemonic() const { return letter_; }
     /// Whether a letter would be seen behind the text.
@@ -34,7 +38,7 @@ protected:
 private:
     QString textWith(QChar letter) const;
     bool hasRoomFor(const QString &text) const;
-    int drawingFlags() const;
+    int drawingFlags(const QString &text) const;
 
     QChar letter_;
     int shortcut_ = 0; ///< the toolkit's number of the keys; 0: there are none

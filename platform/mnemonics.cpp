@@ -7,12 +7,25 @@
 #include "platform/tab_view.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QGroupBox>
 #include <QMenuBar>
+#include <QShortcut>
+
+#include <functional>
+#include <vector>
 
 namespace tessarin {
 
 namespace {
+
+/// What is given a letter.
+struct Receiver {
+    QString text;                    ///< in which "&" stands for itself only where it is written twice
+    QString otherwise;               ///< gives the letter when the text has none; empty: nothing does
+    QChar present;                   ///< the letter that it has; null: none
+    std::function<void(QChar)> give; ///< sets the letter, null for none
+};
 
 bool isLetter(QChar character)
 {
@@ -28,44 +41,90 @@ bool beginsWord(const QString &text, qsizetype place)
 void takeLettersOf(const QWidget *view, MnemonicLetters &letters)
 {
     if (const auto *caption = qobject_cast<const CaptionLabel *>(view)) {
-        letters.take(mnemonicKeys(caption->mnemonic()));
+        letters.take(caption->mnemonic());
     } else if (const auto *label = qobject_cast<const QLabel *>(view)) {
-        letters.take(label->buddy() != nullptr ? QKeySequence::mnemonic(label->text()) : QKeySequence());
+        letters.take(label->buddy() != nullptr ? mnemonicOf(QKeySequence::mnemonic(label->text())) : QChar());
     } else if (const auto *button = qobject_cast<const QAbstractButton *>(view)) {
-        letters.take(button->shortcut());
+        letters.take(mnemonicOf(button->shortcut()));
     } else if (const auto *group = qobject_cast<const QGroupBox *>(view)) {
-        letters.take(QKeySequence::mnemonic(group->title()));
-    } else if (const auto *menus = qobject_cast<const QMenuBar *>(view)) {
-        for (const QAction *action : menus->actions()) {
-            letters.take(QKeySequence::mnemonic(action->text()));
-        }
+        letters.take(mnemonicOf(QKeySequence::mnemonic(group->title())));
     } else if (const auto *tabs = qobject_cast<const QTabBar *>(view)) {
+        const auto *asking = qobject_cast<const AskingTabBar *>(tabs);
         for (int position = 0; position < tabs->count(); ++position) {
-            letters.take(QKeySequence::mnemonic(tabs->tabText(position)));
+            letters.take(mnemonicOf(QKeySequence::mnemonic(tabs->tabText(position))));
+            letters.take(asking != nullptr ? asking->mnemonic(position) : QChar());
         }
     }
+    const bool isMenuBar = qobject_cast<const QMenuBar *>(view) != nullptr;
+    for (const QAction *action : view->actions()) {
+        letters.take(mnemonicOf(action->shortcut()));
+        letters.take(isMenuBar ? mnemonicOf(QKeySequence::mnemonic(action->text())) : QChar());
+    }
 }
 
-void giveLetterTo(CaptionLabel *caption, MnemonicLetters &letters)
+void takeLettersAround(const TabView *tabs, MnemonicLetters &letters)
 {
-    const QWidget *control = caption->buddy();
-    if (control == nullptr || control->focusPolicy() == Qt::NoFocus) {
-        return;
+    const QWidget *window = tabs->window();
+    takeLettersOf(window, letters);
+    for (const QWidget *view : window->findChildren<QWidget *>()) {
+        const bool isOther = view->window() == window && view != tabs && !tabs->isAncestorOf(view);
+        if (isOther && view->isVisibleTo(window)) {
+            takeLettersOf(view, letters);
+        }
     }
-    QChar letter = letters.give(caption->text());
-    // What is written without letters has one behind it; the name of a control is English everywhere.
-    if (letter.isNull() && caption->hasRoomForLetter()) {
-        letter = letters.give(control->objectName());
+    for (const QShortcut *shortcut : window->findChildren<QShortcut *>()) {
+        letters.take(mnemonicOf(shortcut->key()));
     }
-    caption->setMnemonic(letter);
 }
 
-void giveLetterTo(QAbstractButton *button, MnemonicLetters &letters)
+Receiver receiver(CaptionLabel *caption)
+{
+    // What is written without letters has one behind it; the name of a control is English everywhere.
+    return {.text = caption->text(),
+            .otherwise = caption->hasRoomForLetter() ? caption->buddy()->objectName() : QString(),
+            .present = caption->mnemonic(),
+            .give = [caption](QChar letter) { caption->setMnemonic(letter); }};
+}
+
+Receiver receiver(QAbstractButton *button)
 {
     const QString text = unmarkedText(button->text());
-    const QString marked = markedText(text, letters.give(text));
-    if (button->text() != marked) {
-        button->setText(marked);
+    return {.text = text,
+            .otherwise = {},
+            .present = mnemonicOf(button->shortcut()),
+            .give = [button, text](QChar letter) {
+                const QString marked = markedText(text, letter);
+                if (button->text() != marked) {
+                    button->setText(marked);
+                }
+            }};
+}
+
+void addTabs(const TabView *tabs, std::vector<Receiver> &receivers)
+{
+    AskingTabBar *bar = tabs->askingBar();
+    for (int position = 0; position < bar->count(); ++position) {
+        if (!QKeySequence::mnemonic(bar->tabText(position)).isEmpty()) {
+            bar->setMnemonic(position, {});
+        } else {
+            receivers.push_back({.text = bar->tabText(position),
+                                 .otherwise = {},
+                                 .present = bar->mnemonic(position),
+                                 .give = [bar, position](QChar letter) { bar->setMnemonic(position, letter); }});
+        }
+    }
+}
+
+void addPage(const QWidget *page, std::vector<Receiver> &receivers)
+{
+    for (QWidget *view : page->findChildren<QWidget *>()) {
+        if (auto *caption = qobject_cast<CaptionLabel *>(view)) {
+            if (caption->buddy() != nullptr && caption->buddy()->focusPolicy() != Qt::NoFocus) {
+                receivers.push_back(receiver(caption));
+            }
+        } else if (auto *button = qobject_cast<QAbstractButton *>(view)) {
+            receivers.push_back(receiver(button));
+        }
     }
 }
 
@@ -113,19 +172,27 @@ QKeySequence mnemonicKeys(QChar letter)
                             : QKeySequence();
 }
 
-void MnemonicLetters::take(const QKeySequence &keys)
+QChar mnemonicOf(const QKeySequence &keys)
 {
-    if (keys.count() == 1 && keys[0].keyboardModifiers() == Qt::AltModifier) {
-        taken_ += QChar(static_cast<char16_t>(keys[0].key()));
+    const bool isAltAndOne = keys.count() == 1 && keys[0].keyboardModifiers() == Qt::AltModifier;
+    const bool isOne = isAltAndOne && keys[0].key() >= Qt::Key_A && keys[0].key() <= Qt::Key_Z;
+    return isOne ? QChar(static_cast<char16_t>(keys[0].key())) : QChar();
+}
+
+bool MnemonicLetters::take(QChar letter)
+{
+    if (!isFree(letter)) {
+        return false;
     }
+    taken_ += letter.toUpper();
+    return true;
 }
 
 QChar MnemonicLetters::give(const QString &text)
 {
     for (const bool initial : {true, false}) {
         for (qsizetype place = 0; place < text.size(); ++place) {
-            if (isFree(text[place]) && (!initial || beginsWord(text, place))) {
-                taken_ += text[place].toUpper();
+            if ((!initial || beginsWord(text, place)) && take(text[place])) {
                 return taken_.back();
             }
         }
@@ -141,21 +208,25 @@ bool MnemonicLetters::isFree(QChar letter) const
 void giveMnemonics(TabView *tabs)
 {
     MnemonicLetters letters;
-    const QWidget *window = tabs->window();
-    for (const QWidget *view : window->findChildren<QWidget *>()) {
-        if (view != tabs && !tabs->isAncestorOf(view) && view->isVisibleTo(window)) {
-            takeLettersOf(view, letters);
-        }
+    takeLettersAround(tabs, letters);
+    for (int position = 0; position < tabs->count(); ++position) {
+        letters.take(mnemonicOf(QKeySequence::mnemonic(tabs->tabText(position))));
     }
-    tabs->giveMnemonics(letters);
+    std::vector<Receiver> receivers;
+    addTabs(tabs, receivers);
     if (const QWidget *page = tabs->currentWidget()) {
-        for (QWidget *view : page->findChildren<QWidget *>()) {
-            if (auto *caption = qobject_cast<CaptionLabel *>(view)) {
-                giveLetterTo(caption, letters);
-            } else if (auto *button = qobject_cast<QAbstractButton *>(view)) {
-                giveLetterTo(button, letters);
-            }
+        addPage(page, receivers);
+    }
+    // First who keeps a letter: a person may have it in mind.
+    for (Receiver &receiver : receivers) {
+        const bool fits = !receiver.otherwise.isEmpty() || placeOfMnemonic(receiver.text, receiver.present) >= 0;
+        receiver.present = fits && letters.take(receiver.present) ? receiver.present : QChar();
+    }
+    for (Receiver &receiver : receivers) {
+        for (const QString &text : {receiver.text, receiver.otherwise}) {
+            receiver.present = receiver.present.isNull() ? letters.give(text) : receiver.present;
         }
+        receiver.give(receiver.present);
     }
 }
 

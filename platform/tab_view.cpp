@@ -11,6 +11,7 @@
 #include <QStyleOptionTab>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarin {
@@ -51,20 +52,15 @@ void AskingTabBar::showIdentifiers()
     update();
 }
 
-void AskingTabBar::giveMnemonics(MnemonicLetters &letters)
+void AskingTabBar::setMnemonic(int position, QChar letter)
 {
-    for (const Mnemonic &mnemonic : mnemonics_) {
-        releaseShortcut(mnemonic.shortcut);
+    if (position < 0 || position >= count() || mnemonic(position) == letter) {
+        return;
     }
-    mnemonics_.assign(static_cast<std::size_t>(count()), {});
-    for (int position = 0; position < count(); ++position) {
-        const QKeySequence own = QKeySequence::mnemonic(tabText(position));
-        letters.take(own);
-        const QChar letter = own.isEmpty() ? letters.give(tabText(position)) : QChar();
-        if (!letter.isNull()) {
-            mnemonics_[static_cast<std::size_t>(position)] = {letter, grabShortcut(mnemonicKeys(letter))};
-        }
-    }
+    const auto place = static_cast<std::size_t>(position);
+    mnemonics_.resize(std::max(mnemonics_.size(), place + 1));
+    releaseShortcut(mnemonics_[place].shortcut);
+    mnemonics_[place] = {letter, letter.isNull() ? 0 : grabShortcut(mnemonicKeys(letter))};
     update();
 }
 
@@ -72,6 +68,15 @@ QChar AskingTabBar::mnemonic(int position) const
 {
     const auto place = static_cast<std::size_t>(position);
     return position >= 0 && place < mnemonics_.size() ? mnemonics_[place].letter : QChar();
+}
+
+QString AskingTabBar::mnemonics() const
+{
+    QString letters;
+    for (int position = 0; position < count(); ++position) {
+        letters += mnemonic(position).isNull() ? QString() : QString(mnemonic(position));
+    }
+    return letters;
 }
 
 bool AskingTabBar::event(QEvent *event)
@@ -190,7 +195,38 @@ void TabView::setIdentifier(int position, const QString &identifier)
 void TabView::showEvent(QShowEvent *event)
 {
     QTabWidget::showEvent(event);
-    tessarin::giveMnemonics(this);
+    if (watchedWindow_ != window()) {
+        if (watchedWindow_) {
+            watchedWindow_->removeEventFilter(this);
+        }
+        watchedWindow_ = window();
+        watchedWindow_->installEventFilter(this);
+    }
+    giveLetters();
+}
+
+bool TabView::eventFilter(QObject *watched, QEvent *event)
+{
+    // The window lays itself out anew when a view around has come, gone or got another text.
+    if (event->type() == QEvent::LayoutRequest && watched == watchedWindow_) {
+        giveLettersSoon();
+    }
+    return QTabWidget::eventFilter(watched, event);
+}
+
+void TabView::giveLettersSoon()
+{
+    if (!std::exchange(isGivingSoon_, true)) {
+        QMetaObject::invokeMethod(this, &TabView::giveLetters, Qt::QueuedConnection);
+    }
+}
+
+void TabView::giveLetters()
+{
+    isGivingSoon_ = false;
+    if (isVisible()) {
+        giveMnemonics(this);
+    }
 }
 
 void TabView::keyPressEvent(QKeyEvent *event)
@@ -213,9 +249,7 @@ void TabView::keepAllowed(int position)
         return;
     }
     allowed_ = position;
-    if (isVisible()) {
-        tessarin::giveMnemonics(this);
-    }
+    giveLetters();
 }
 
 } // namespace tessarin

@@ -6,6 +6,7 @@
 #ifndef TESSARIN_PLATFORM_TAB_VIEW_H
 #define TESSARIN_PLATFORM_TAB_VIEW_H
 
+#include <QPointer>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -16,14 +17,13 @@ class QShortcutEvent;
 
 namespace tessarin {
 
-class MnemonicLetters;
-
 /// Answers whether the tab at a 0-based position may be selected.
 using ShouldSelectTab = std::function<bool(int position)>;
 
 /// A tab bar that asks before it selects a tab, and passes over refused tabs on the way with keys and wheel.
 class AskingTabBar : public QTabBar {
     Q_OBJECT
+    Q_PROPERTY(QString mnemonics READ mnemonics)
 
 public:
     explicit AskingTabBar(QWidget *parent = nullptr);
@@ -36,10 +36,13 @@ public:
     void selectNext(int direction, bool wrap);
     /// Draws each tab as its identifier says: the tabs that would be refused look disabled.
     void showIdentifiers();
-    /// Gives each tab whose text marks no letter one of those that are left. A refused tab has one as well.
-    void giveMnemonics(MnemonicLetters &letters);
+    /// Alt and the letter, A to Z, select the tab at a position if it may be selected; the letter is underlined.
+    /// Null: there is none.
+    void setMnemonic(int position, QChar letter);
     /// The letter that a tab was given; null when it has none.
     QChar mnemonic(int position) const;
+    /// The letters of all tabs that have one, in the tabs' order.
+    QString mnemonics() const;
 
 protected:
     bool event(QEvent *event) override;
@@ -74,7 +77,9 @@ public:
     /// The identifier of the tab at a position; a null string when it has none or there is no such tab.
     QString identifier(int position) const;
     void setIdentifier(int position, const QString &identifier);
-    void giveMnemonics(MnemonicLetters &letters) { bar_->giveMnemonics(letters); }
+    AskingTabBar *askingBar() const { return bar_; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -82,9 +87,13 @@ protected:
 
 private:
     void keepAllowed(int position);
+    void giveLetters();
+    void giveLettersSoon();
 
     AskingTabBar *bar_; ///< owned by this widget
     int allowed_ = -1;  ///< the last position that was not refused
+    QPointer<QWidget> watchedWindow_;
+    bool isGivingSoon_ = false;
 };
 
 } // namespace tessarin

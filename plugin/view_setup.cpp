@@ -6,6 +6,7 @@
 #include "controls/control_layer.h"
 #include "controls/control_tables.h"
 #include "controls/embedding.h"
+#include "platform/mnemonics.h"
 #include "platform/tab_view.h"
 #include "platform/view_tags.h"
 #include "plugin/log.h"
@@ -45,7 +46,7 @@ void translateView(QWidget *view)
     } else if (auto *line = qobject_cast<QLineEdit *>(view)) {
         SetTextControl(line, makeString(localized(line->text())));
     } else if (auto *button = qobject_cast<QAbstractButton *>(view)) {
-        button->setText(localizedTitle(button->text()));
+        button->setText(localizedTitle(unmarkedText(button->text()))); // shown before, it marks a letter
     }
 }
 

@@ -14,7 +14,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
+#include <utility>
 
 namespace tessarin::test {
 namespace {
@@ -54,6 +56,25 @@ TEST_P(PanelReading, NamesEveryControl)
             EXPECT_TRUE(names.insert(name.toStdString()).second) << name.toStdString() << " on page " << page;
         }
         EXPECT_FALSE(names.empty()) << "page " << page;
+    }
+}
+
+TEST_P(EnglishPanelReading, TellsTheKeysOfCaptions)
+{
+    const std::array<std::pair<const QWidget *, const char *>, 3> rows{{
+        {session.popup(kPopMediaType), "Alt+M"},
+        {session.slider(kSliderBrightness), "Alt+B"},
+        {session.slider(kSliderColorYellow), ""}, // on a page that was not shown yet
+    }};
+    for (const auto &[control, keys] : rows) {
+        QAccessibleInterface *read = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(control));
+        ASSERT_NE(read, nullptr) << keys;
+        EXPECT_EQ(read->text(QAccessible::Accelerator), QString::fromLatin1(keys));
+        QAccessibleActionInterface *actions = read->actionInterface();
+        ASSERT_NE(actions, nullptr) << keys;
+        const QStringList bound = actions->keyBindingsForAction(QAccessibleActionInterface::setFocusAction());
+        EXPECT_EQ(bound.join(u'|'), QString::fromLatin1(keys));
+        EXPECT_TRUE(actions->keyBindingsForAction(QAccessibleActionInterface::pressAction()).isEmpty());
     }
 }
 

@@ -156,27 +156,71 @@ TEST_F(CaptionLabelTest, ShowsNoLetterForWhichThereIsNoRoom)
 
 TEST_F(CaptionLabelTest, IsDrawnAsEveryLabelExceptForTheLine)
 {
-    window.setStyleSheet(QString());
+    LetterStyle plain(false);
+    LetterStyle lined(true);
+    QLabel every(&window);
+    every.setTextFormat(Qt::PlainText);
+    every.setWordWrap(true);
+    every.setGeometry(caption.geometry());
+    every.show();
+    every.setStyle(&plain);
     for (const bool enabled : {true, false}) {
-        caption.setEnabled(enabled);
-        for (const char *text :
-             {"Color Gamut:", "Bright Cyan\nUsage:", "Color Gamut of quite some more than a line:"}) {
-            caption.setText(QString::fromLatin1(text));
-            LetterStyle plain(false);
-            LetterStyle lined(true);
-            caption.setStyle(&plain);
-            caption.setMnemonic({});
-            const QImage before = picture();
-            caption.setMnemonic(u'A');
-            EXPECT_EQ(picture(), before) << text;
-            caption.setStyle(&lined);
-            const QImage after = picture();
-            EXPECT_NE(after, before) << text;
-            caption.setMnemonic({});
-            EXPECT_EQ(picture(), before) << text;
-            caption.setStyle(nullptr);
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            for (const Qt::Alignment alignment :
+                 {Qt::Alignment(Qt::AlignLeft), Qt::AlignRight | Qt::AlignVCenter}) {
+                for (const char *text : {"Color Gamut:", "Bright Cyan\nUsage:", "מרחב A:",
+                                         "Color Gamut of quite some more than a line:"}) {
+                    for (QLabel *label : {static_cast<QLabel *>(&caption), &every}) {
+                        label->setEnabled(enabled);
+                        label->setLayoutDirection(direction);
+                        label->setAlignment(alignment);
+                        label->setText(QString::fromUtf8(text));
+                    }
+                    caption.setStyle(&plain);
+                    caption.setMnemonic(u'A');
+                    EXPECT_EQ(picture(), every.grab().toImage()) << text;
+                    caption.setMnemonic({});
+                    EXPECT_EQ(picture(), every.grab().toImage()) << text;
+                    caption.setStyle(&lined);
+                    EXPECT_EQ(picture(), every.grab().toImage()) << text;
+                    caption.setMnemonic(u'A');
+                    EXPECT_NE(picture(), every.grab().toImage()) << text;
+                }
+            }
         }
     }
+    caption.setStyle(nullptr);
+    every.setStyle(nullptr);
+}
+
+TEST_F(CaptionLabelTest, ShowsAnAmpersandAsOne)
+{
+    caption.setText(QStringLiteral("A & B"));
+    caption.setMnemonic({});
+    const QImage one = picture();
+    caption.setText(QStringLiteral("A  B"));
+    EXPECT_NE(picture(), one);
+    caption.setBuddy(nullptr);
+    caption.setText(QStringLiteral("A & B"));
+    EXPECT_EQ(picture(), one) << "as a label that is no caption";
+}
+
+TEST_F(CaptionLabelTest, GoesToWhatStandsInThePlaceOfAHiddenControl)
+{
+    caption.setMnemonic(u'G');
+    QLineEdit substitute(&window);
+    substitute.setGeometry(control.geometry());
+    EXPECT_EQ(captionedControl(caption), &control);
+    control.hide();
+    EXPECT_EQ(captionedControl(caption), &control) << "there is no other";
+    press(Qt::Key_G);
+    EXPECT_TRUE(other.hasFocus());
+    substitute.show();
+    EXPECT_EQ(captionedControl(caption), &substitute);
+    press(Qt::Key_G);
+    EXPECT_TRUE(substitute.hasFocus());
+    caption.setBuddy(nullptr);
+    EXPECT_EQ(captionedControl(caption), nullptr);
 }
 
 TEST_F(CaptionLabelTest, LeavesPicturesAlone)

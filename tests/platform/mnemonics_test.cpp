@@ -6,13 +6,17 @@
 #include "platform/caption_label.h"
 #include "tests/platform/tab_view_fixture.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace tessarin::test {
@@ -58,6 +62,13 @@ TEST(MnemonicKeys, AreAltAndALetter)
     for (const QChar none : {QChar(), QChar(u'1'), QChar(u'ü'), QChar(u'&')}) {
         EXPECT_TRUE(mnemonicKeys(none).isEmpty()) << int{none.unicode()};
     }
+    EXPECT_EQ(mnemonicOf(QKeySequence(Qt::ALT | Qt::Key_G)), u'G');
+    for (const QKeySequence &other :
+         {QKeySequence(), QKeySequence(Qt::Key_G), QKeySequence(Qt::CTRL | Qt::Key_G),
+          QKeySequence(Qt::ALT | Qt::Key_1), QKeySequence(Qt::ALT | Qt::SHIFT | Qt::Key_G),
+          QKeySequence(Qt::ALT | Qt::Key_G, Qt::ALT | Qt::Key_H)}) {
+        EXPECT_TRUE(mnemonicOf(other).isNull()) << other.toString().toStdString();
+    }
 }
 
 TEST(MnemonicLettersTest, AreGivenOnce)
@@ -76,21 +87,22 @@ TEST(MnemonicLettersTest, AreGivenOnce)
 TEST(MnemonicLettersTest, AreThoseThatOthersLeave)
 {
     MnemonicLetters letters;
-    letters.take(QKeySequence(Qt::ALT | Qt::Key_A));
-    letters.take(QKeySequence(Qt::CTRL | Qt::Key_B));
-    letters.take(QKeySequence(Qt::Key_C));
-    letters.take(QKeySequence(Qt::ALT | Qt::Key_D, Qt::ALT | Qt::Key_E));
-    letters.take({});
-    EXPECT_EQ(letters.give(text("ABCDE")), u'B');
-    EXPECT_EQ(letters.give(text("CDE")), u'C');
-    EXPECT_EQ(letters.give(text("ADE")), u'D');
-    EXPECT_EQ(letters.give(text("ADE")), u'E');
-    EXPECT_TRUE(letters.give(text("ADE")).isNull());
+    EXPECT_TRUE(letters.take(u'a'));
+    EXPECT_FALSE(letters.take(u'A'));
+    for (const QChar none : {QChar(), QChar(u'1'), QChar(u'Ü')}) {
+        EXPECT_FALSE(letters.take(none)) << int{none.unicode()};
+    }
+    EXPECT_EQ(letters.give(text("AB")), u'B');
+    EXPECT_FALSE(letters.take(u'B'));
 }
 
 class TabViewLetters : public TabViewFixture {
 protected:
-    TabViewLetters() { tabs.activateWindow(); }
+    void SetUp() override
+    {
+        tabs.window()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(tabs.window()));
+    }
 
     QChar letter(int position) const { return qobject_cast<AskingTabBar *>(bar())->mnemonic(position); }
     QString letters() const
@@ -130,33 +142,33 @@ TEST_F(TabViewLetters, SelectNoRefusedPage)
     EXPECT_NE(std::find(asked.begin(), asked.end(), 2), asked.end());
 }
 
-TEST_F(TabViewLetters, StayThoseThatATextMarks)
+TEST_F(TabViewLetters, AreNotThoseThatTextsMark)
 {
-    tabs.setTabText(0, text("G&old"));
+    tabs.setTabText(0, text("Gold"));
     tabs.setTabText(1, text("R && D"));
+    tabs.setTabText(4, text("Or&igin"));
+    tabs.setTabText(3, text("Iris"));
     showAgain();
-    EXPECT_EQ(letters(), text("-RGDE"));
+    EXPECT_EQ(letters(), text("ORGS-"));
     pressAlt(Qt::Key_R);
     EXPECT_EQ(current(), 1);
-    pressAlt(Qt::Key_O);
-    EXPECT_EQ(current(), 0);
+    pressAlt(Qt::Key_I);
+    EXPECT_EQ(current(), 4);
 }
 
 TEST_F(TabViewLetters, AreDrawnWithALine)
 {
     const QImage with = bar()->grab().toImage();
     for (int position = 0; position < tabs.count(); ++position) {
-        tabs.setTabText(position, tabs.tabText(position));
+        tabs.askingBar()->setMnemonic(position, {});
     }
-    MnemonicLetters none;
-    for (int letter = Qt::Key_A; letter <= Qt::Key_Z; ++letter) {
-        none.take(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)));
-    }
-    tabs.giveMnemonics(none);
-    EXPECT_EQ(letters(), text("-----"));
     const QImage without = bar()->grab().toImage();
     EXPECT_EQ(with.size(), without.size());
     EXPECT_NE(with, without);
+    tabs.askingBar()->setMnemonic(0, u'A');
+    tabs.askingBar()->setMnemonic(tabs.count(), u'B');
+    tabs.askingBar()->setMnemonic(-1, u'B');
+    EXPECT_EQ(letters(), text("A----"));
 }
 
 /// A page of the tab view with two captions and a check box, in a window with a host's views around.
@@ -183,6 +195,8 @@ protected:
             view->setParent(nullptr);
         }
     }
+
+    void SetUp() override {} // the host's window is shown by each test
 
     QWidget host{};
     CaptionLabel first{};
@@ -220,11 +234,51 @@ TEST_F(PageLetters, AreNotThoseOfTheHost)
     const QLabel noCaption(text("&Tips"), &host);
     QPushButton hidden(text("&Undo"), &host);
     hidden.hide();
-    first.setText(text("prs fcu"));
-    second.setText(text("prs fct"));
+    QPushButton keyed(&host);
+    keyed.setShortcut(QKeySequence(Qt::ALT | Qt::Key_K));
+    const QShortcut shortcut(QKeySequence(Qt::ALT | Qt::Key_H), &host);
+    QAction action;
+    action.setShortcut(QKeySequence(Qt::ALT | Qt::Key_Y));
+    host.addAction(&action);
+    QDialog dialog(&host);
+    const QPushButton elsewhere(text("&Wide"), &dialog);
+    dialog.show();
+    first.setText(text("prs fckhyu"));
+    second.setText(text("prs fckhywt"));
     showAgain();
     EXPECT_EQ(first.mnemonic(), u'U');
-    EXPECT_EQ(second.mnemonic(), u'T');
+    EXPECT_EQ(second.mnemonic(), u'W') << "the dialog is another window";
+}
+
+TEST_F(PageLetters, AreNotThoseOfAnotherTabView)
+{
+    TabView neighbour;
+    neighbour.addTab(new QWidget, text("Zeta"));
+    host.layout()->addWidget(&neighbour);
+    first.setText(text("Zeta"));
+    showAgain();
+    EXPECT_NE(neighbour.askingBar()->mnemonic(0), first.mnemonic());
+    EXPECT_FALSE(first.mnemonic().isNull());
+}
+
+TEST_F(PageLetters, GiveWayToViewsThatComeLater)
+{
+    first.setText(text("Zinc:"));
+    second.setText(text("Theta:"));
+    showAgain();
+    ASSERT_EQ(first.mnemonic(), u'Z');
+    ASSERT_EQ(second.mnemonic(), u'T');
+    QPushButton late(text("&Zoom"));
+    host.layout()->addWidget(&late);
+    late.show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return first.mnemonic() != u'Z'; }));
+    EXPECT_EQ(first.mnemonic(), u'I');
+    EXPECT_EQ(second.mnemonic(), u'T') << "who can keeps its letter";
+    bool pressed = false;
+    QObject::connect(&late, &QPushButton::clicked, [&pressed] { pressed = true; });
+    pressAlt(Qt::Key_Z);
+    EXPECT_TRUE(QTest::qWaitFor([&pressed] { return pressed; }));
+    EXPECT_FALSE(one.hasFocus());
 }
 
 TEST_F(PageLetters, AreGivenWhenThePageIsShown)

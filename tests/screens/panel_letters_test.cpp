@@ -4,12 +4,16 @@
 // In every language each tab, caption and button of the panel has a letter of its own on its page, which reaches it
 // together with Alt.
 
+#include "controls/control_tables.h"
 #include "platform/caption_label.h"
+#include "platform/mnemonics.h"
 #include "platform/tab_view.h"
+#include "plugin/diagnostics.h"
 #include "tests/screens/variants.h"
 #include "tests/support/panel_session.h"
 
 #include <QAbstractButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -17,6 +21,8 @@
 
 namespace tessarin::test {
 namespace {
+
+constexpr int kColorModelPopUp = 4505;
 
 bool isCaption(const CaptionLabel &label)
 {
@@ -69,8 +75,9 @@ TEST_P(PanelLetters, SelectEachPage)
 {
     for (int position = tabs_->count() - 1; position >= 0; --position) {
         const QChar letter = letterOfTab(position);
-        if (hasNoLetters() && letter.isNull()) {
-            continue; // then Ctrl and Tab do
+        if (hasNoLetters()) {
+            EXPECT_TRUE(letter.isNull()) << "then Ctrl and Tab do";
+            continue;
         }
         ASSERT_FALSE(letter.isNull()) << tabs_->tabText(position).toStdString();
         expectUnique(letter, tabs_->tabText(position));
@@ -103,23 +110,64 @@ TEST_P(PanelLetters, ReachEachControl)
             expectUnique(caption->mnemonic(), caption->drawnText());
             const bool wasEnabled = caption->buddy()->isEnabled();
             caption->buddy()->setEnabled(true);
-            if (caption->isVisible() && caption->buddy()->isVisible()) {
+            if (caption->isVisible()) {
                 press(caption->mnemonic());
                 EXPECT_TRUE(caption->buddy()->hasFocus()) << text;
                 ++reached;
             }
             caption->buddy()->setEnabled(wasEnabled);
         }
-        for (const QAbstractButton *button : tabs_->currentWidget()->findChildren<QAbstractButton *>()) {
+        for (QAbstractButton *button : tabs_->currentWidget()->findChildren<QAbstractButton *>()) {
             const QKeySequence keys = button->shortcut();
             if (hasNoLetters() && keys.isEmpty()) {
                 continue; // then Tab and the space bar do
             }
             ASSERT_EQ(keys.count(), 1) << button->text().toStdString();
-            expectUnique(QChar(static_cast<char16_t>(keys[0].key())), button->text());
+            expectUnique(mnemonicOf(keys), button->text());
+            QSignalSpy presses(button, &QAbstractButton::clicked);
+            const bool wasEnabled = button->isEnabled();
+            button->setEnabled(true);
+            press(mnemonicOf(keys));
+            EXPECT_TRUE(QTest::qWaitFor([&presses] { return presses.count() == 1; }))
+                << button->text().toStdString();
+            button->setEnabled(wasEnabled);
         }
     }
     EXPECT_GE(reached, 22) << "eight pop-ups and those sliders that have captions of their own";
+}
+
+TEST_P(PanelLetters, ReachTheColorSpaceThatIsShown)
+{
+    tabs_->setCurrentIndex(1);
+    const QWidget *cmyk = session_.popup(kPopCMYKspace);
+    const QWidget *rgb = session_.popup(kPopColorspace);
+    ASSERT_TRUE(rgb->isVisible());
+    const auto captions = tabs_->currentWidget()->findChildren<CaptionLabel *>();
+    const auto found = std::find_if(captions.begin(), captions.end(),
+                                    [rgb](const CaptionLabel *caption) { return caption->buddy() == rgb; });
+    ASSERT_NE(found, captions.end());
+    Diagnostics diagnostics;
+    const QComboBox *modes = session_.popup(kPopColorModel);
+    for (int item = 1; item <= modes->count() && rgb->isVisible(); ++item) {
+        diagnostics.choose(*session_.panel, kColorModelPopUp, item);
+    }
+    ASSERT_TRUE(cmyk->isVisible());
+    press((*found)->mnemonic());
+    EXPECT_TRUE(cmyk->hasFocus());
+}
+
+TEST_P(PanelLetters, StayOutOfTheTextsOfAViewThatIsAskedForAgain)
+{
+    QMap<const QAbstractButton *, QString> texts;
+    for (const QAbstractButton *button : view_->findChildren<QAbstractButton *>()) {
+        texts.insert(button, unmarkedText(button->text()));
+    }
+    tabs_->setCurrentIndex(3);
+    session_.open();
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        EXPECT_EQ(unmarkedText(text.key()->text()), text.value());
+    }
+    EXPECT_GE(texts.size(), 4);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, PanelLetters, testing::ValuesIn(shippedLanguages()),
