@@ -176,7 +176,7 @@ down)
     halt_scheduler
     open_dialog --log none --printer photo "$work/document.txt"
     resume_scheduler
-    press_until "the queue opens" alt+a shows_printer photo # Try Again
+    press_until "the queue opens" alt+y shows_printer photo # Try Again
     keys alt+p
     wait_for_end 0
     expect_jobs photo 1
