@@ -27,10 +27,11 @@ qsizetype endOfCaption(const QString &text)
 QWidget *captionedControl(const QLabel &caption)
 {
     QWidget *control = caption.buddy();
-    if (control == nullptr || !control->isHidden()) {
+    const QWidget *around = control != nullptr ? control->parentWidget() : nullptr;
+    if (around == nullptr || !control->isHidden()) {
         return control;
     }
-    for (QObject *sibling : control->parentWidget()->children()) {
+    for (QObject *sibling : around->children()) {
         auto *other = qobject_cast<QWidget *>(sibling);
         if (other != nullptr && !other->isHidden() && other->geometry() == control->geometry()) {
             return other;

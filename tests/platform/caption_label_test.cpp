@@ -205,6 +205,14 @@ TEST_F(CaptionLabelTest, ShowsAnAmpersandAsOne)
     EXPECT_EQ(picture(), one) << "as a label that is no caption";
 }
 
+TEST_F(CaptionLabelTest, MayBeTheCaptionOfTheViewAroundIt)
+{
+    QWidget around; // hidden, and in nothing
+    CaptionLabel inside(&around);
+    inside.setBuddy(&around);
+    EXPECT_EQ(captionedControl(inside), &around);
+}
+
 TEST_F(CaptionLabelTest, GoesToWhatStandsInThePlaceOfAHiddenControl)
 {
     caption.setMnemonic(u'G');
