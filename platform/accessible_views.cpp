@@ -191,9 +191,7 @@ const QLabel *labelAround(const QWidget *view, const std::function<bool(const QL
 QString withoutColon(QString caption)
 {
     caption = caption.simplified();
-    if (caption.endsWith(u':') || caption.endsWith(QChar(0xFF1A))) { // the wide one of Chinese and Japanese
-        caption.chop(1);
-    }
+    caption.truncate(endOfCaption(caption));
     return caption.trimmed();
 }
 

@@ -15,14 +15,13 @@ namespace {
 
 constexpr QChar kWideLetter = QLatin1Char('W'); // as wide as any
 
-/// The place for a letter behind the text: before a colon that ends it, be it the wide one of Chinese and Japanese.
+} // namespace
+
 qsizetype endOfCaption(const QString &text)
 {
     const bool colon = text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xFF1A));
     return text.size() - (colon ? 1 : 0);
 }
-
-} // namespace
 
 QWidget *captionedControl(const QLabel &caption)
 {

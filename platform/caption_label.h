@@ -10,6 +10,9 @@
 
 namespace tessarin {
 
+/// Where a caption ends: before a colon, be it the wide one of Chinese and Japanese.
+qsizetype endOfCaption(const QString &text);
+
 /// The control that a label is the caption of: its buddy, or what stands in the place of a hidden one; null when it
 /// is no caption.
 QWidget *captionedControl(const QLabel &caption);

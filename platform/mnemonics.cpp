@@ -100,11 +100,14 @@ Receiver receiver(QAbstractButton *button)
             }};
 }
 
-void addTabs(const TabView *tabs, std::vector<Receiver> &receivers)
+/// Takes the letters that the tabs' texts mark.
+void addTabs(const TabView *tabs, MnemonicLetters &letters, std::vector<Receiver> &receivers)
 {
     AskingTabBar *bar = tabs->askingBar();
     for (int position = 0; position < bar->count(); ++position) {
-        if (!QKeySequence::mnemonic(bar->tabText(position)).isEmpty()) {
+        const QKeySequence own = QKeySequence::mnemonic(bar->tabText(position));
+        if (!own.isEmpty()) {
+            letters.take(mnemonicOf(own));
             bar->setMnemonic(position, {});
         } else {
             receivers.push_back({.text = bar->tabText(position),
@@ -181,7 +184,7 @@ QChar mnemonicOf(const QKeySequence &keys)
 
 bool MnemonicLetters::take(QChar letter)
 {
-    if (!isFree(letter)) {
+    if (!isLetter(letter) || taken_.contains(letter.toUpper())) {
         return false;
     }
     taken_ += letter.toUpper();
@@ -200,20 +203,12 @@ QChar MnemonicLetters::give(const QString &text)
     return {};
 }
 
-bool MnemonicLetters::isFree(QChar letter) const
-{
-    return isLetter(letter) && !taken_.contains(letter.toUpper());
-}
-
 void giveMnemonics(TabView *tabs)
 {
     MnemonicLetters letters;
     takeLettersAround(tabs, letters);
-    for (int position = 0; position < tabs->count(); ++position) {
-        letters.take(mnemonicOf(QKeySequence::mnemonic(tabs->tabText(position))));
-    }
     std::vector<Receiver> receivers;
-    addTabs(tabs, receivers);
+    addTabs(tabs, letters, receivers);
     if (const QWidget *page = tabs->currentWidget()) {
         addPage(page, receivers);
     }

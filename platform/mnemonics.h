@@ -36,8 +36,6 @@ public:
     QChar give(const QString &text);
 
 private:
-    bool isFree(QChar letter) const;
-
     QString taken_;
 };
 

@@ -94,8 +94,7 @@ TEST_P(TinyScreen, HasRoomForTheButtons)
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, TinyScreen, testing::ValuesIn(shippedLanguages()),
-                         [](const testing::TestParamInfo<std::string> &language) { return language.param; });
+INSTANTIATE_TEST_SUITE_P(Languages, TinyScreen, testing::ValuesIn(shippedLanguages()), languageName);
 
 } // namespace
 } // namespace tessarin::test

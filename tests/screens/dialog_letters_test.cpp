@@ -100,8 +100,7 @@ TEST_P(DialogLetters, AreThereOnceWithANotice)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, DialogLetters, testing::ValuesIn(shippedLanguages()),
-                         [](const testing::TestParamInfo<std::string> &language) { return language.param; });
+INSTANTIATE_TEST_SUITE_P(Languages, DialogLetters, testing::ValuesIn(shippedLanguages()), languageName);
 
 } // namespace
 } // namespace tessarin::test

@@ -170,8 +170,7 @@ TEST_P(PanelLetters, StayOutOfTheTextsOfAViewThatIsAskedForAgain)
     EXPECT_GE(texts.size(), 4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, PanelLetters, testing::ValuesIn(shippedLanguages()),
-                         [](const testing::TestParamInfo<std::string> &language) { return language.param; });
+INSTANTIATE_TEST_SUITE_P(Languages, PanelLetters, testing::ValuesIn(shippedLanguages()), languageName);
 
 } // namespace
 } // namespace tessarin::test

@@ -23,6 +23,11 @@ std::string variantName(const testing::TestParamInfo<Variant> &parameters)
     return language + "_" + std::to_string(percent);
 }
 
+std::string languageName(const testing::TestParamInfo<std::string> &parameters)
+{
+    return parameters.param;
+}
+
 FontScale::FontScale(int percent)
 {
     QFont larger = before_;

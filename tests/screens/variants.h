@@ -32,6 +32,9 @@ inline auto languagesAndFonts()
 /// "de_150"
 std::string variantName(const testing::TestParamInfo<Variant> &parameters);
 
+/// "de"
+std::string languageName(const testing::TestParamInfo<std::string> &parameters);
+
 /// A larger font for all views as long as this object is there.
 class FontScale {
 public:
